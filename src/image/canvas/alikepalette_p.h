@@ -5,8 +5,9 @@
 
 namespace Zorv {
 
-/// A palette that finds a transparent entry for transparent colours and for no others, if it has
-/// entries of both kinds; else it is as the one that it is made of, which outlives it.
+/// A palette that maps transparent colours to transparent entries and all others to the other
+/// entries, if it has both kinds. Otherwise it acts like the palette it wraps, which must outlive
+/// it.
 class AlikePalette : public ImagePalette
 {
 public:

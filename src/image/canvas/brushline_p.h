@@ -5,25 +5,25 @@
 
 namespace Zorv {
 
-/// What a square brush covers that is moved along a line, a run of pixels a row.
+/// The area that a square brush covers when it moves along a line, as one run of pixels per row.
 ///
-/// The line is Bresenham's: it steps along the longer axis, and aside when an error that starts at
-/// half the longer span passes it. The brush has its top left pixel on the line.
+/// The line is Bresenham's: it steps along the longer axis, and sideways when an error that starts
+/// at half the longer span exceeds that span. The brush's top left pixel is on the line.
 class BrushLine
 {
 public:
     BrushLine(const QPoint& from, const QPoint& to, int width);
 
-    /// Around all of it.
+    /// The bounding rectangle.
     QRect rect() const;
 
-    /// Calls `paint(y, left, right)`, with the first and the last pixel of a row, for the rows from
-    /// `top` to `bottom`, which lie within `rect()`.
+    /// Calls `paint(y, left, right)`, with the first and the last pixel of the row, for the rows
+    /// `top` to `bottom`, which are within `rect()`.
     template <class Paint>
     void forRows(int top, int bottom, Paint paint) const;
 
 private:
-    /// The numbers floor((start + i * step) / unit) for a growing i.
+    /// Computes floor((start + i * step) / unit) for i = 0, 1, 2, ... without a division each time.
     class Slope
     {
     public:
@@ -53,16 +53,16 @@ private:
     QPoint m_from;
     QPoint m_to;
     int m_width;
-    qint64 m_across;  ///< the spans, without sign
+    qint64 m_across;  ///< both spans are absolute values
     qint64 m_down;
 };
 
 template <class Paint>
 void BrushLine::forRows(int top, int bottom, Paint paint) const
 {
-    // Rows of the line are counted from its start, which may be below. The brush hangs down from
-    // the line, so that a row sees the line's rows from `first` to `last`. Both only move forward
-    // when rows are walked in the direction of the line.
+    // Rows are counted along the line, from its start. The brush hangs down from the line, so an
+    // image row is covered by the brushes of the line's rows `first` to `last`. Both only increase
+    // when rows are visited in the direction of the line.
     const bool isUp = m_to.y() < m_from.y();
     const bool isLeft = m_to.x() < m_from.x();
     const int step = isUp ? -1 : 1;

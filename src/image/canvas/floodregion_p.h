@@ -11,40 +11,40 @@ namespace Zorv {
 template <class Pixel>
 struct Raster;
 
-/// The pixels that a flood fill reaches: those with the seed's value that hang together by their
-/// sides. Pixels where the mask is 0 are walls.
+/// The pixels a flood fill reaches: pixels equal to the seed that are connected by their sides.
+/// Pixels where the mask is 0 are walls.
 class FloodRegion
 {
 public:
-    /// `pixels` and `mask` outlive the region; `pixels` has 8 or 32 bits a pixel, the mask, if
-    /// there is one, 8. Nothing behind `size`, which is within both, is reached. The region is
-    /// empty if the seed is outside or a wall.
+    /// `pixels` and `mask` must outlive the region; `pixels` has 8 or 32 bits per pixel, the mask,
+    /// if given, 8. Nothing outside `size`, which is within both, is reached. The region is empty
+    /// if the seed is outside or a wall.
     FloodRegion(const QImage& pixels, const QSize& size, const QImage* mask, const QPoint& seed);
 
-    /// Rectangles around all of it, of 64 rows at most.
+    /// Rectangles that together contain the region, each of at most 64 rows.
     std::vector<QRect> pieces() const;
 
-    /// Writes a value to each pixel of the region, to an image of the size and depth of `pixels`.
+    /// Writes a value to each pixel of the region, in an image with the size and depth of `pixels`.
     void paint(QImage& pixels, quint32 value) const;
 
 private:
     static constexpr int Side = 64;
 
-    /// The pixels of a tile, a bit each, the left one lowest.
+    /// The pixels of a tile, one bit each, the leftmost pixel in the lowest bit.
     struct Words
     {
-        quint64 open[Side] = {};     ///< of the seed's value, and no wall
-        quint64 reached[Side] = {};  ///< the part of it that belongs to the region
-        quint64 changed = 0;         ///< a bit for each row with pixels that were not spread yet
+        quint64 open[Side] = {};     ///< equal to the seed, and no wall
+        quint64 reached[Side] = {};  ///< the part of `open` that belongs to the region
+        quint64 changed = 0;         ///< one bit per row whose new pixels have not been spread yet
     };
-    /// A square of the image, smaller at the right and lower edge.
+    /// A square of the image, smaller at the right and bottom edge.
     struct Tile
     {
         int column;
         int row;
-        Words* words = nullptr;  ///< null if all pixels are open, or none
-        bool isFull = false;     ///< all are open
-        bool isReached = false;  ///< of a full one: all belong to the region
+        Words* words = nullptr;  ///< null if all pixels are open, or none is
+        bool isFull = false;     ///< all pixels are open
+        bool isReached = false;  ///< for a full tile: all its pixels belong to the region
         bool isQueued = false;
     };
     struct Sides
@@ -81,7 +81,7 @@ private:
     QSize m_size;
     int m_columns = 0;
     int m_rows = 0;
-    std::vector<std::vector<Tile>> m_bands;  ///< a row of tiles each, empty if none was looked at
+    std::vector<std::vector<Tile>> m_bands;  ///< one row of tiles each; empty until it is loaded
     std::deque<Words> m_words;
     std::vector<Tile*> m_queue;
 };

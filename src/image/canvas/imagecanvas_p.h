@@ -20,13 +20,13 @@ namespace Zorv {
 
 class ImageUndoCommand;
 
-/// What a canvas, its layers and its commands share.
+/// The state that a canvas, its layers and its commands share.
 class ImageCanvasPrivate
 {
     Q_DECLARE_TR_FUNCTIONS(Zorv::ImageCanvas)
 
 public:
-    /// The signals that are sent when the last batch ends.
+    /// The signals to send when the last batch ends.
     struct Notices
     {
         bool size = false;
@@ -35,19 +35,19 @@ public:
         bool look = false;
         bool list = false;
         QRect part;
-        ImageLayer* layer = nullptr;  ///< the only one that changed; null for several
+        ImageLayer* layer = nullptr;  ///< the only layer that changed; null if several did
         QRect selection;
     };
 
-    /// A change of pixels that is not a step yet. Without a layer its target is the mask.
+    /// A pixel change that is not a step yet. Without a layer it changes the selection mask.
     struct Stroke
     {
         LayerRef layer;
         ImageCanvas::StrokeKind kind;
         QString title;
         int mergeId;
-        QImage before;     ///< of a `WholeStroke`
-        PixelTiles tiles;  ///< of a `TiledStroke`
+        QImage before;     ///< for a `WholeStroke`
+        PixelTiles tiles;  ///< for a `TiledStroke`
     };
 
     explicit ImageCanvasPrivate(ImageCanvas* canvas);
@@ -59,8 +59,8 @@ public:
     void letGo();
     void send(const Notices& what);
 
-    /// Notes what has changed; sends it if no batch holds it back. A layer that is not in the
-    /// list has no look.
+    /// Records what has changed, and sends it unless a batch holds it back. A layer that is not in
+    /// the list is not visible, so it is ignored.
     void looksDifferent(ImageLayer* layer, const QRect& rect);
     void looksDifferent();
     void rowDiffers(ImageLayer* layer);
@@ -71,7 +71,7 @@ public:
     void refuse(const QString& message);
     bool isPossible(const QSize& newSize, ImageCanvas::Format of);
 
-    /// A step of several commands. If `act` is false, all of it is taken back.
+    /// Makes one step of several commands. If `act` returns false, all of them are undone.
     template <class Act>
     bool macro(const char* title, Act act)
     {
@@ -87,7 +87,7 @@ public:
         return done;
     }
 
-    /// Calls `act` for all layers as long as it is true.
+    /// Calls `act` for each layer until it returns false.
     template <class Act>
     bool forLayers(Act act)
     {
@@ -99,21 +99,21 @@ public:
         return true;
     }
 
-    /// The pixel that stands for new room.
+    /// The pixel that fills new area.
     unsigned fill() const;
 
-    /// The pixel of an empty layer: transparent, or the ground if no entry is.
+    /// The pixel of an empty layer: transparent, or the background if no entry is transparent.
     unsigned clearPixel(ImageCanvas::Format of) const;
 
-    /// An image in form and size of the canvas; an indexed one without table has the palette's
-    /// colours. Null if memory is short.
+    /// The image converted to the format and size of the canvas. An indexed image without a table
+    /// is taken to have the palette's colours. Null if memory is short.
     QImage adapted(const QImage& image) const;
 
     void applySize(const QSize& newSize);
     void applyFormat(ImageCanvas::Format newFormat);
     void applyAxis(const QPoint& newAxis);
 
-    /// With a command, each.
+    /// Like `applySize()` and `applyAxis()`, but recorded.
     void recordSize(const QSize& newSize);
     void recordAxis(const QPoint& newAxis, int mergeId = 0);
 
@@ -121,14 +121,14 @@ public:
     bool reformatLayers(ImageCanvas::Format newFormat, ImagePalette* entries);
     bool rotateLayers(bool all, float angle, ImageResizeFilter filter);
 
-    /// Makes a layer ready to be in the list.
+    /// Converts a layer so that it can be added to the list.
     bool enter(ImageLayer* layer);
     void layerLeaves(ImageLayer* layer, int row);
 
-    /// Lets an open stroke of a layer keep all of it, whatever was announced.
+    /// Makes an open stroke on a layer save all of it, in addition to what was announced.
     void keepWhole(const ImageLayer* layer);
 
-    /// The history knows of the stroke: it can be undone from now on.
+    /// Registers the stroke with the history: it can be undone from now on.
     void tellStroke();
     void endStroke();
 
@@ -147,10 +147,10 @@ public:
     std::optional<Stroke> stroke;
     int batches = 0;
     Notices notices;
-    ImageUndoStack stack;  ///< the first to go: its commands hold layers
+    ImageUndoStack stack;  ///< last, so destroyed first: its commands hold layers
 };
 
-/// What a command of the list does, and what the rest of the library sees of a list.
+/// The part of a layer list that commands and the rest of the library use.
 class ImageLayersPrivate
 {
 public:

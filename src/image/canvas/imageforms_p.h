@@ -10,7 +10,7 @@
 
 namespace Zorv {
 
-/// The colours of a palette while it does not change, and the entries of many colours.
+/// A snapshot of a palette's colours, with a cache for finding the nearest entry.
 class PaletteColors
 {
 public:
@@ -35,36 +35,36 @@ private:
     const ImagePalette& m_palette;
     std::array<QRgb, 256> m_colors;
     int m_transparent = -1;
-    std::vector<Found> m_found;  ///< of the last colours that were asked for
+    std::vector<Found> m_found;  ///< a cache of recent searches, by hash
 };
 
-/// The form of the layers of a canvas.
+/// The image format of the layers of a canvas.
 QImage::Format imageFormat(ImageCanvas::Format format);
 
-/// An image in one of the two forms; one that is neither null nor indexed becomes true.
+/// The image in one of the two formats; one that is neither null nor indexed becomes true colour.
 QImage layerImage(const QImage& image);
 
-/// An indexed image with another colour table, on the same pixels, which outlive it and stay as
-/// they are.
+/// An indexed image with another colour table that shares the pixels, which must outlive it and not
+/// change.
 QImage indexedView(const QImage& image, const QVector<QRgb>& table);
 
-/// The colours of an indexed image; null if memory is short.
+/// Converts indices to colours; null if memory is short.
 QImage toColors(const QImage& indexed, const ImagePalette& palette);
 
-/// The entries of a true-colour image; null if memory is short.
+/// Converts colours to indices; null if memory is short.
 QImage toIndices(const QImage& colors, const ImagePalette& palette);
 
-/// An image of another size, with this one at `position` and `fill` around; null if memory is
-/// short. Colour tables are not kept.
+/// An image of another size with this one at `position` and `fill` around it; null if memory is
+/// short. Colour tables are dropped.
 QImage placed(const QImage& image, const QSize& size, const QPoint& position, quint32 fill);
 
 /// A new image with all bytes 0, null if memory is short.
 QImage emptyImage(const QSize& size, QImage::Format format);
 
-/// Whether both have the same form, size and pixels.
+/// Whether both have the same format, size and pixels.
 bool samePixels(const QImage& x, const QImage& y);
 
-/// Whether so many bytes can be had without the machine coming to a stand.
+/// Whether so many bytes can be allocated without the machine running out of memory.
 bool isMemoryFor(qint64 bytes);
 
 }  // namespace Zorv

@@ -31,7 +31,7 @@ public:
         return *this;
     }
 
-    /// Takes over a reference that is counted already.
+    /// Takes over a reference that was already counted.
     static LayerRef adopt(ImageLayer* layer)
     {
         LayerRef ref;

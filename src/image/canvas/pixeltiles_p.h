@@ -8,10 +8,10 @@
 
 namespace Zorv {
 
-/// Some of the tiles of an image, as they were when they were saved.
+/// Saved copies of some tiles of an image, for undo.
 ///
-/// A tile has 64 by 64 pixels, less at the right and lower border. Tiles can be packed, each on its
-/// own; packed or not, they are exchanged with those of the image.
+/// A tile has 64 by 64 pixels, fewer at the right and bottom border. Tiles are packed (compressed)
+/// one by one; packed or not, they can be exchanged with the tiles of the image.
 class PixelTiles
 {
 public:
@@ -19,27 +19,26 @@ public:
 
     PixelTiles() = default;
 
-    /// For images of the size and form of this one; no tile is saved.
+    /// For images with the size and format of `model`; no tile is saved yet.
     explicit PixelTiles(const QImage& model);
 
-    /// Saves the tiles that a rectangle touches, but for those that are saved already.
+    /// Saves the tiles that a rectangle touches, except those saved already.
     void save(const QImage& image, const QRect& rect);
 
-    /// The tiles of `before` in which `after` is different, all of them if it has another size or
-    /// form.
+    /// Saves the tiles of `before` that differ in `after`; all of them if size or format differ.
     static PixelTiles differences(const QImage& before, const QImage& after);
 
-    /// Whether both are of images of the same size and form.
+    /// Whether both are for images of the same size and format.
     bool isLike(const PixelTiles& other) const;
 
-    /// Drops the tiles that are as they are in the image.
+    /// Drops the saved tiles that equal the image.
     void dropEqual(const QImage& image);
 
-    /// Adds the tiles that are not saved here: those of `later` were saved behind these.
+    /// Adds the tiles of `later` that are not saved here. A tile saved here is older and stays.
     void append(const PixelTiles& later);
 
-    /// Gives the image the saved tiles and keeps those that it had; an image of another size or
-    /// form is exchanged as a whole. The rectangle around what is different.
+    /// Writes the saved tiles to the image and saves what it had there instead. An image of another
+    /// size or format is exchanged as a whole. Returns the rectangle that has changed.
     QRect exchange(QImage& image);
 
     /// See `ImageUndoCommand`.
@@ -53,7 +52,7 @@ private:
     {
         QByteArray bytes;
         bool packed = false;
-        bool tried = false;  ///< packing was of no use
+        bool tried = false;  ///< packing was tried
 
         QByteArray pixels() const;
     };

@@ -11,7 +11,7 @@
 
 namespace Zorv {
 
-/// What one undo takes back: a command, or those of a macro.
+/// What one undo takes back: one command, or all commands of a macro.
 struct UndoStep
 {
     using Command = std::unique_ptr<ImageUndoCommand>;
@@ -31,7 +31,7 @@ struct UndoStep
         std::for_each(commands.begin(), commands.end(), [](const Command& x) { x->redo(); });
     }
 
-    /// Removes commands from the last one on, which is the only safe order.
+    /// Removes commands from the back, which is the only safe order.
     void shrink(std::size_t size)
     {
         while (commands.size() > size) {
@@ -46,7 +46,7 @@ struct UndoStep
         }
     }
 
-    /// Packs up to `limit` bytes; what remains of the limit is given back.
+    /// Packs up to `limit` bytes; returns what is left of the limit.
     qint64 pack(qint64 limit)
     {
         for (const Command& command : commands) {
@@ -61,13 +61,13 @@ struct UndoStep
     }
 };
 
-/// The steps of a history, and where it stands among them.
+/// The steps of a history and the current position in it.
 struct UndoSteps
 {
     std::deque<UndoStep> steps;
     qint64 bytes = 0;            ///< of all steps
-    std::size_t firstLoose = 0;  ///< the steps in front of it have nothing left to pack
-    qint64 packedBytes = 0;      ///< of those steps
+    std::size_t firstLoose = 0;  ///< all steps before this one are completely packed
+    qint64 packedBytes = 0;      ///< of the steps before `firstLoose`
     std::size_t index = 0;
     int cleanIndex = 0;
 
@@ -75,7 +75,7 @@ struct UndoSteps
     UndoSteps(UndoSteps&&) = default;
     UndoSteps& operator=(UndoSteps&&) = default;
 
-    /// Commands may hold the last references to layers; those of later steps go first.
+    /// Deletes later steps first: commands may hold the last references to layers.
     ~UndoSteps()
     {
         while (!steps.empty()) {

@@ -4,12 +4,12 @@
 
 namespace Zorv {
 
-/// The layer of a command that takes it out of the list or puts it there. While it is out, its
-/// pixels count as the command's, and can be packed.
+/// The layer of a command that adds it to the list or removes it. While the layer is out of the
+/// list, its pixels count as the command's memory and can be packed.
 class HeldLayer
 {
 public:
-    /// Whether the layer is in the list or out of it when the command is made.
+    /// Whether the layer is in the list when the command is made.
     enum Place { In, Out };
 
     HeldLayer(ImageLayer* layer, Place place) : m_layer(layer), m_place(place) {}

@@ -5,11 +5,11 @@
 
 namespace Zorv {
 
-/// The axis of a canvas, which it exchanges.
+/// A change of the canvas axis; undo and redo exchange old and new.
 class ImageCanvasAxis : public ImageUndoCommand
 {
 public:
-    /// Joins one in front of it that has the same `mergeId`, unless that is 0.
+    /// Merges with the previous one if it has the same `mergeId`, unless that is 0.
     ImageCanvasAxis(ImageCanvas* canvas, const QPoint& before, int mergeId);
 
     void undo() override;

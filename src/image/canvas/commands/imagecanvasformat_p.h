@@ -5,7 +5,7 @@
 
 namespace Zorv {
 
-/// The form of a canvas, which it exchanges; the layers have commands of their own.
+/// A change of the canvas format; the layers have their own commands.
 class ImageCanvasFormat : public ImageUndoCommand
 {
 public:

@@ -9,7 +9,7 @@ namespace Zorv {
 
 class ImageCanvas;
 
-/// The size of a canvas and the mask that belongs to it, which it exchanges.
+/// A change of the canvas size and of the selection mask, which has that size.
 class ImageCanvasSize : public ImageUndoCommand
 {
 public:

@@ -5,7 +5,7 @@
 
 namespace Zorv {
 
-/// The mode of a layer, which it exchanges.
+/// A change of a layer's blend mode.
 class ImageLayerBlend : public ImageUndoCommand
 {
 public:

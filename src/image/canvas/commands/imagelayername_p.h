@@ -7,7 +7,7 @@
 
 namespace Zorv {
 
-/// The name of a layer, which it exchanges.
+/// A change of a layer's name.
 class ImageLayerName : public ImageUndoCommand
 {
 public:

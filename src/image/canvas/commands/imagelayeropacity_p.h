@@ -5,7 +5,7 @@
 
 namespace Zorv {
 
-/// The opacity of a layer, which it exchanges.
+/// A change of a layer's opacity.
 class ImageLayerOpacity : public ImageUndoCommand
 {
 public:
@@ -14,7 +14,7 @@ public:
     void undo() override;
     qint64 byteSize() const override;
 
-    /// Steps of a slider on one layer become one.
+    /// Merges the steps of a slider on one layer.
     int id() const override;
     bool mergeWith(const QUndoCommand* next) override;
 

@@ -7,7 +7,7 @@ namespace Zorv {
 
 class ImageCanvas;
 
-/// A mask of the same size, of which it exchanges the tiles that differ.
+/// A change of the selection mask at the same size. Keeps only the tiles that differ.
 class ImageSelectionEdit : public ImageUndoCommand
 {
 public:

@@ -5,7 +5,7 @@
 
 namespace Zorv {
 
-/// A step that puts a layer into the list or takes it out.
+/// A step that adds a layer to the list or removes it.
 class LayerCommand : public ImageUndoCommand
 {
 public:
@@ -13,7 +13,7 @@ public:
     qint64 pack(qint64 limit) override;
 
 protected:
-    /// `place` is where the layer is when the step is made, `row` its row when it is in the list.
+    /// `place` says whether the layer is in the list when the step is made; `row` is its row in it.
     LayerCommand(const QString& title, ImageCanvas* canvas, ImageLayer* layer,
                  HeldLayer::Place place, int row);
 

@@ -4,7 +4,7 @@
 
 namespace Zorv {
 
-/// A layer that was put on top.
+/// Adds a layer on top.
 class RasterLayerAdd : public LayerCommand
 {
 public:

@@ -4,7 +4,7 @@
 
 namespace Zorv {
 
-/// A layer that was taken out of a row.
+/// Removes a layer.
 class RasterLayerDel : public LayerCommand
 {
 public:

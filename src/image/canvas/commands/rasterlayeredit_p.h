@@ -6,8 +6,8 @@
 
 namespace Zorv {
 
-/// The pixels of a layer, of which it exchanges the tiles that differ, or all if the size or the
-/// form is another.
+/// A change of a layer's pixels. Keeps only the tiles that differ, or all of them if the size or
+/// the format has changed.
 class RasterLayerEdit : public ImageUndoCommand
 {
 public:
@@ -17,7 +17,7 @@ public:
     qint64 byteSize() const override;
     qint64 pack(qint64 limit) override;
 
-    /// Steps of one layer with the same number, which is not 0, become one.
+    /// Merges steps on one layer that have the same merge number, unless that is 0.
     int id() const override;
     bool mergeWith(const QUndoCommand* next) override;
 

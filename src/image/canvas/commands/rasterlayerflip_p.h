@@ -5,7 +5,7 @@
 
 namespace Zorv {
 
-/// A layer that was mirrored: mirrored again it is as before, so no pixel is kept.
+/// Mirrors a layer. Undo mirrors it again, so no pixels are kept.
 class RasterLayerFlip : public ImageUndoCommand
 {
 public:

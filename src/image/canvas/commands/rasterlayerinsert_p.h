@@ -4,7 +4,7 @@
 
 namespace Zorv {
 
-/// A layer that was put at a row.
+/// Inserts a layer at a row.
 class RasterLayerInsert : public LayerCommand
 {
 public:
