@@ -15,7 +15,7 @@ int squared(int x)
     return x * x;
 }
 
-/// The distance by colour, and then by alpha.
+/// The distance by colour; equal ones are ordered by alpha.
 std::tuple<int, int> distance(QRgb x, QRgb y)
 {
     return {squared(qRed(x) - qRed(y)) + squared(qGreen(x) - qGreen(y)) +

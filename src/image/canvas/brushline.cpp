@@ -3,15 +3,16 @@
 #include <algorithm>
 #include <cstdlib>
 
-// After k steps along the longer axis the line has gone floor((longer / 2 + k * shorter) / longer)
-// aside. So the rows of the image can be walked instead of the steps: each is written once, however
-// many squares of the brush cover it, and rows outside of the image are never looked at.
+// After k steps along the longer axis the line is floor((longer / 2 + k * shorter) / longer) steps
+// aside. With this formula the rows of the image can be visited instead of the steps of the line:
+// each row is written once, however many brush squares cover it, and rows outside the image cost
+// nothing.
 
 namespace Zorv {
 
 namespace {
 
-// Products of two spans fit into 64 bits.
+// Small enough that a product of two spans fits into 64 bits.
 const int Farthest = 1 << 28;
 
 QPoint reachable(const QPoint& point)
@@ -44,18 +45,18 @@ QRect BrushLine::rect() const
     return {corner, QSize(int(m_across) + m_width, int(m_down) + m_width)};
 }
 
-/// How far aside the line is when it enters a row.
+/// The column at which the line enters a row, counted from the start of the line.
 BrushLine::Slope BrushLine::firstColumns(qint64 row) const
 {
     if (m_across >= m_down) {
-        // A level line has one row; it is entered at its start.
+        // A horizontal line has only one row, entered at its start.
         const qint64 unit = std::max(m_down, qint64(1));
         return {row * m_across - m_across / 2 + unit - 1, m_across, unit};
     }
     return {m_down / 2 + row * m_across, m_across, m_down};
 }
 
-/// And when it leaves it.
+/// The column at which the line leaves a row.
 BrushLine::Slope BrushLine::lastColumns(qint64 row) const
 {
     if (m_across >= m_down) {

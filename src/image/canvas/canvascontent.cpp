@@ -14,7 +14,7 @@ public:
     ImageCanvas::Format format = ImageCanvas::RGBAFormat;
     QPoint axis;
     QImage mask;
-    std::unique_ptr<UndoSteps> steps;  // the first to go: its commands hold layers
+    std::unique_ptr<UndoSteps> steps;  // last, so destroyed first: its commands hold layers
 };
 
 CanvasContent::CanvasContent() : d(std::make_unique<CanvasContentPrivate>()) {}

@@ -11,9 +11,9 @@
 
 #include <algorithm>
 
-// As bytes: a version, the fields in the order in which they stand, and for each layer its own
-// fields with the rows of its image, packed. Pixels are checked against the size of the canvas
-// before there is memory for them.
+// The byte format: a version, the fields in order, and for each layer its own fields and the
+// compressed rows of its image. The length of the pixels is compared with the size of the canvas
+// before memory for them is allocated, because damaged bytes may claim any length.
 
 namespace Zorv {
 
@@ -22,8 +22,8 @@ namespace {
 constexpr quint32 Version = 1;
 constexpr quint32 MaxLayers = 10000;
 constexpr int ColorCount = 256;
-constexpr qint64 MaxBytes = qint64(1) << 30;  // of a layer: arrays count with an int
-constexpr int Packing = 1;  // quickly: what is put aside is written again and again
+constexpr qint64 MaxBytes = qint64(1) << 30;  // per layer: array sizes are ints
+constexpr int Packing = 1;  // fast: a canvas that is put aside is written again and again
 
 /// The colours of a record.
 class RecordPalette : public MonoPalette
@@ -60,13 +60,13 @@ QByteArray pixelsOf(const QImage& image)
     return qCompress(bytes, Packing);
 }
 
-/// How many bytes stand behind the packed ones, as their first four say.
+/// The uncompressed length, as stated by the first four bytes of the packed data.
 qint64 lengthOf(const QByteArray& packed)
 {
     return packed.size() < 4 ? -1 : qFromBigEndian<quint32>(packed.constData());
 }
 
-/// Null for packed bytes of another length.
+/// Null if the packed data has another length.
 QImage imageOf(const QByteArray& packed, const QSize& size, QImage::Format format)
 {
     const qint64 row = qint64(size.width()) * (format == QImage::Format_Indexed8 ? 1 : 4);

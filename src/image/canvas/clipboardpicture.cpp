@@ -20,8 +20,8 @@ class Texts
 
 const QLatin1String AnyImage("image/");
 
-/// Files of the clipboard that can be read, the best first. Qt's readers of others may take any
-/// memory, and show what was in it.
+/// The file formats read from the clipboard, best first. Other formats are not read: Qt's readers
+/// for them may allocate any amount of memory, and show what was in it.
 struct FileFormat
 {
     QLatin1String name;
@@ -53,7 +53,7 @@ QImage anyPicture(const QMimeData& data)
             }
         }
     }
-    // Without a file it is an image of this program, or of the system.
+    // Without a file the data may be an image of this program or of the system.
     return data.formats().filter(AnyImage).isEmpty() ? qvariant_cast<QImage>(data.imageData())
                                                      : QImage();
 }

@@ -14,7 +14,7 @@ namespace Zorv {
 
 namespace {
 
-/// Sets the pixels of an image that the mask selects, or those that it does not.
+/// Sets the pixels that the mask selects, or, with `isSelected` false, all others.
 template <class Pixel>
 void fillWhere(bool isSelected, const QImage& mask, const QPoint& corner, Pixel pixel,
                const QRect& part, QImage* image)
@@ -57,7 +57,7 @@ bool isClear(QRgb color)
     return qAlpha(color) == 0;
 }
 
-/// For each index of a piece that of the palette; -1 for a transparent one.
+/// The palette's index for each index of a piece; -1 for a transparent one.
 std::array<int, 256> indexMap(const QVector<QRgb>& table, ImagePalette* palette)
 {
     const AlikePalette alike(palette);
@@ -84,14 +84,14 @@ QRgb over(QRgb top, QRgb below)
     }
     const int a = qAlpha(top);
     const int b = qAlpha(below);
-    const int alpha = a * 255 + b * (255 - a);  // of 255 * 255
+    const int alpha = a * 255 + b * (255 - a);  // in units of 1 / (255 * 255)
     return alpha == 0 ? 0
                       : qRgba(mixed(qRed(top), a, qRed(below), b, alpha),
                               mixed(qGreen(top), a, qGreen(below), b, alpha),
                               mixed(qBlue(top), a, qBlue(below), b, alpha), (alpha + 127) / 255);
 }
 
-/// `change` gives the new pixel of the image from both.
+/// `change` computes the new pixel of the image from the pixels of piece and image.
 template <class From, class To, class Change>
 void combine(const QImage& piece, const QPoint& corner, QImage* image, Change change)
 {
@@ -191,7 +191,7 @@ void clearSelected(const QImage& mask, const QRect& part, quint32 pixel, QImage*
 
 QRect placeOf(const QImage& piece, const QSize& image)
 {
-    // The place is from a file: it can be any number.
+    // The place comes from a file, so it can be any number.
     const QPoint corner = piece.offset();
     const bool isSeen = corner.x() < image.width() && corner.y() < image.height() &&
                         corner.x() > -piece.width() && corner.y() > -piece.height();

@@ -6,15 +6,15 @@
 #include <algorithm>
 #include <cstring>
 
-// The image is cut into tiles of 64 by 64 pixels, each of which is 64 words of 64 bits. Within a
-// tile a fill spreads along a row by arithmetic on one word, and to the rows above and below by an
-// AND. A tile is looked at again only when pixels come in over its sides. So the fill works on 1
-// KiB at a time, where a walk along the pixels of a tall image would touch another page of memory
-// at each step. A tile in which all pixels are open needs no words: whatever comes in reaches all
-// of it.
+// The image is divided into tiles of 64 by 64 pixels. A tile is 64 words of 64 bits, one word per
+// row. Within a tile the fill spreads along a row by arithmetic on one word, and to the rows above
+// and below by an AND. Pixels that cross a side queue the neighbour tile, and a tile is visited
+// again only when new pixels enter it. So the fill works on 1 KiB at a time; a walk from pixel to
+// pixel through a tall image would touch another page of memory at each step. A tile in which all
+// pixels are open needs no words: any pixel that enters reaches all of it.
 //
-// Pixels become words by bands, one row of tiles each, when a fill first comes there: rows of an
-// image are read as they lie in memory, and a small fill does not read all of a large image.
+// Pixels are converted to words one band (a row of tiles) at a time, when the fill first gets
+// there. Rows are then read in memory order, and a small fill does not read all of a large image.
 
 namespace Zorv {
 
@@ -25,7 +25,7 @@ quint64 lowBits(int count)
     return count >= 64 ? ~quint64(0) : (quint64(1) << count) - 1;
 }
 
-/// A bit for each of 64 pixels of a value.
+/// One bit for each of 64 pixels, set where the pixel has the value.
 quint64 placesOf(const quint8* at, quint32 value)
 {
     return ByteScan::placesOf(at, 0xFF, quint8(value));
@@ -54,7 +54,7 @@ quint64 placesOf(const quint32* at, quint32 value)
     return places;
 }
 
-/// The same for the first `count` of them; nothing behind these is read.
+/// The same for only the first `count` pixels; nothing after them is read.
 template <class Pixel>
 quint64 placesOf(const Pixel* at, int count, quint32 value)
 {
@@ -66,15 +66,15 @@ quint64 placesOf(const Pixel* at, int count, quint32 value)
     return placesOf(copy, value) & lowBits(count);
 }
 
-/// All runs of `open` in which a pixel is set.
+/// All runs of `open` that contain a set pixel.
 quint64 spreadAlongRow(quint64 pixels, quint64 open)
 {
     if (((pixels << 1 | pixels >> 1) & open & ~pixels) == 0) {
         return pixels;
     }
-    // Upwards a carry runs from the lowest pixel to the end of its run.
+    // Upwards: adding lets a carry run from the lowest set pixel to the end of its run.
     quint64 spread = pixels | (open & ~(open + pixels));
-    // Downwards by doubled distances.
+    // Downwards: shift by distances that double.
     for (int distance = 1; distance < 64; distance *= 2) {
         spread |= open & (spread >> distance);
         open &= open >> distance;
@@ -82,7 +82,7 @@ quint64 spreadAlongRow(quint64 pixels, quint64 open)
     return spread;
 }
 
-/// Eight bytes of 255 where the bits of a byte are set.
+/// Expands eight bits to eight bytes: 255 for each set bit, 0 for others.
 quint64 bytesOf(quint64 bits)
 {
     const quint64 spread = (bits & 0xFF) * ByteScan::eachByte(1) & 0x8040201008040201U;
@@ -99,7 +99,7 @@ void paintRow(quint8* row, int count, quint64 places, quint8 value)
         }
         return;
     }
-    // Without a look at the bits, for branches that nobody can foresee cost more than writes.
+    // Branchless: mispredicted branches cost more than writing all pixels.
     const quint64 values = ByteScan::eachByte(value);
     for (int i = 0; i < 64; i += 8, places >>= 8) {
         const quint64 marks = bytesOf(places);
@@ -130,7 +130,7 @@ void fillRect(Raster<Pixel>& pixels, const QRect& rect, Pixel value)
     }
 }
 
-/// Whether all of some pixels in a row are of a value.
+/// Whether all pixels of a row have the value.
 template <class Pixel>
 bool isUniform(const Pixel* row, int count, quint32 value)
 {
@@ -278,7 +278,7 @@ void FloodRegion::grow(const QPoint& seed)
     }
 }
 
-/// Spreads what has come into a tile, and hands it on over the four sides.
+/// Spreads the pixels that entered a tile, then passes them on across its four sides.
 void FloodRegion::spreadBeyond(Tile& tile)
 {
     const quint64 all = ~quint64(0);
@@ -335,7 +335,7 @@ void FloodRegion::queue(Tile& tile)
     }
 }
 
-/// Gives a bit for each row that has pixels to hand on at the left and the right side.
+/// Returns one bit for each row with pixels to pass on at the left and the right side.
 FloodRegion::Sides FloodRegion::spreadWithin(Words& words)
 {
     Sides sides;
@@ -349,7 +349,7 @@ FloodRegion::Sides FloodRegion::spreadWithin(Words& words)
     return sides;
 }
 
-/// Spreads along a row, and on in one direction as long as that reaches more.
+/// Spreads along a row, then from row to row in one direction while that reaches more.
 void FloodRegion::spreadFrom(Words& words, int row, int step, Sides& sides)
 {
     quint64 changed = words.changed;
@@ -424,7 +424,7 @@ template <class Pixel>
 void FloodRegion::paintBand(const std::vector<Tile>& band, Raster<Pixel>& pixels, Pixel value) const
 {
     for (std::size_t first = 0; first < band.size();) {
-        // Full tiles beside each other are filled as one.
+        // Neighbouring full tiles are filled as one rectangle.
         std::size_t end = first + 1;
         while (band[first].isReached && end < band.size() && band[end].isReached) {
             ++end;

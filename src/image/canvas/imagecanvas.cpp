@@ -36,7 +36,7 @@ ImageCanvas::ImageCanvas(ImagePalette* palette, QObject* parent)
     setPalette(palette);
     connect(&d->stack, &ImageUndoStack::aboutToMove, this, [this] {
         d->hold();
-        // The stack ends a stroke that has announced something; this one has not.
+        // The stack only ends a stroke that has announced a change; this one may not have.
         endStroke();
     });
     connect(&d->stack, &ImageUndoStack::moved, this, [this] { d->letGo(); });
@@ -165,7 +165,7 @@ QImage ImageCanvas::mergePart(const QRect& part) const
             continue;
         }
         visible.push_back(layer);
-        // Between a change of the form without its layers and theirs there may be others.
+        // While the format has changed but the layers have not, a layer may still be true colour.
         images.push_back(d->format == RGBAFormat ||
                                  layer->image().format() == QImage::Format_Indexed8
                              ? layer->image()
@@ -198,7 +198,7 @@ ImageLayer* ImageCanvas::newRasterLayer(const QImage& image)
     if (!d->isPossible(d->size, d->format)) {
         return nullptr;
     }
-    // An image's own colour table tells its colours; a layer has none.
+    // An image is adapted by its own colour table, which a layer does not have.
     ImageLayer* const layer = image.isNull() ? new RasterLayer(this, d->size, d->format)
                                              : new RasterLayer(this, d->adapted(image));
     if (!d->layers->add(layer, true)) {

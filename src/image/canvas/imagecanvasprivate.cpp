@@ -32,7 +32,7 @@ void ImageCanvasPrivate::letGo()
     }
 }
 
-// What looks different is told first, so that a view which hears of anything else knows it.
+// The look is signalled first, so that a view is up to date when other signals arrive.
 void ImageCanvasPrivate::send(const Notices& what)
 {
     if (!what.part.isEmpty()) {
@@ -125,7 +125,7 @@ bool ImageCanvasPrivate::isPossible(const QSize& newSize, ImageCanvas::Format of
     }
     const qint64 pixelBytes = of == ImageCanvas::RGBAFormat ? 4 : 1;
     const qint64 pixels = qint64(newSize.width()) * newSize.height();
-    // The mask has a byte for each pixel; a `QImage` cannot have more bytes than an int counts.
+    // The mask takes one byte per pixel; a `QImage` cannot have more bytes than fit into an int.
     if (pixels * pixelBytes > std::numeric_limits<int>::max() ||
         !isMemoryFor(pixels * (pixelBytes * std::max(int(layers->count()), 1) + 1))) {
         refuse(tr("There is not enough memory for an image of %1 by %2 pixels.")

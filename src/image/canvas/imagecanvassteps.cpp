@@ -1,5 +1,5 @@
-// What changes all of a canvas in one step. If a layer cannot follow, all is taken back. The axis
-// may be any number that a file had: what moves it stays far from the ends of `int`.
+// Operations that change a whole canvas in one step. If one layer fails, all is undone. The axis
+// may be any number found in a file, so moving it must not overflow an `int`.
 
 #include "graphics/stage/rounding_p.h"
 #include "image/canvas/alikepalette_p.h"
@@ -15,8 +15,8 @@ namespace Zorv {
 
 namespace {
 
-/// Where a point of an image comes to when it is turned about its middle and the result stands in
-/// the middle of a canvas.
+/// Where a point goes when its image is turned about the middle and the result is centred on a
+/// canvas.
 QPoint turnedPoint(const QPoint& point, const QSize& image, const QSize& turned, float degrees,
                    const QSize& canvas)
 {
@@ -53,7 +53,7 @@ bool ImageCanvas::setSize(const QSize& size, const QPoint& position, bool record
     return d->macro("setSize", [&] { return d->resizeLayers(size, position); });
 }
 
-// The layers take what the pixels need; the axis goes with a canvas that had a size.
+// Layers resize their pixels. The axis moves too, unless the canvas was empty before.
 bool ImageCanvasPrivate::resizeLayers(const QSize& newSize, const QPoint& corner)
 {
     const QSize before = size;

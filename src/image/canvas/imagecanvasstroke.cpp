@@ -1,4 +1,5 @@
-// Changes of pixels by hand: what begins is kept until it is known what has become of it.
+// Strokes: changes of pixels by hand. The old pixels are saved while a stroke is open; when it
+// ends, only the tiles that really differ become an undo step.
 
 #include "image/canvas/commands/imageselectionedit_p.h"
 #include "image/canvas/commands/rasterlayeredit_p.h"
@@ -34,7 +35,7 @@ void ImageCanvas::beginStroke(ImageLayer* layer, StrokeKind kind, const QString&
     const QImage& image = targetOf(*d, stroke);
     stroke.tiles = PixelTiles(image);
     if (kind == WholeStroke) {
-        // Shares its pixels until the first of them is written.
+        // Shared, not copied, until the first pixel is written.
         stroke.before = image;
     }
     d->stroke.emplace(std::move(stroke));
@@ -102,8 +103,8 @@ void ImageCanvasPrivate::keepWhole(const ImageLayer* layer)
     }
 }
 
-// The stack still has the stroke as pending, and calls this again when the command is pushed: so
-// nobody is told of a clean state in between.
+// The stroke is still pending on the stack, which calls this again while the command is pushed.
+// That call does nothing, and no clean state is signalled in between.
 void ImageCanvasPrivate::endStroke()
 {
     if (!stroke) {
@@ -117,7 +118,7 @@ void ImageCanvasPrivate::endStroke()
     } else {
         ended.tiles.dropEqual(after);
     }
-    // Before the command is pushed, or the next write would have to copy all pixels.
+    // Released before the push: otherwise the next write would have to copy all pixels.
     ended.before = QImage();
     ImageUndoCommand* command = nullptr;
     if (ended.layer) {

@@ -29,7 +29,7 @@ void refuse(ImageCanvas* canvas, const QString& message)
     ImageCanvasPrivate::of(canvas).refuse(message);
 }
 
-/// The selected rectangle of what is to be copied; null if it cannot be, with a reason.
+/// The rectangle `box` of the pixels to copy; null, with a reason, if there is nothing to copy.
 QImage selectedPart(const ImageCanvas& canvas, ImageClipboard::Source source, const QRect& box,
                     QString* reason)
 {
@@ -108,7 +108,7 @@ bool mayClear(ImageCanvas* canvas)
     return true;
 }
 
-/// Of the active layer, as a step.
+/// Clears the selected pixels of the active layer, as a step.
 void clearLayer(ImageCanvas* canvas, const QString& title)
 {
     ImageLayer* const layer = canvas->activeLayer();
@@ -128,7 +128,7 @@ void clearLayer(ImageCanvas* canvas, const QString& title)
 
 QMimeData* ImageClipboard::data(ImageCanvas* canvas, Source source)
 {
-    // An open stroke is what the person sees.
+    // An open stroke is visible to the user, so it must be copied, too.
     canvas->endStroke();
     const QImage mask = selectionOf(*canvas);
     const QRect box = selectedRect(mask);

@@ -27,7 +27,7 @@ PaletteColors::PaletteColors(const ImagePalette& palette) : m_palette(palette)
     }
 }
 
-// A search looks at the whole palette, and images have the same colours again and again.
+// A search compares the whole palette, and images repeat the same colours: so results are cached.
 quint8 PaletteColors::nearest(QRgb color)
 {
     if (m_found.empty()) {
@@ -60,8 +60,8 @@ QImage layerImage(const QImage& image)
     return result;
 }
 
-// The pixels are only read, so that the constructor for writing does no harm: with the other one
-// the table would cost a copy of them.
+// Uses the constructor for writable pixels, although they are only read: with the one for constant
+// pixels, setting the table would copy them.
 QImage indexedView(const QImage& image, const QVector<QRgb>& table)
 {
     QImage view(const_cast<uchar*>(image.constBits()), image.width(), image.height(),
@@ -147,8 +147,8 @@ bool samePixels(const QImage& x, const QImage& y)
     return true;
 }
 
-// An allocation succeeds whether or not there is memory behind it, and the process that touches
-// it is killed: so what there is has to be asked for.
+// An allocation succeeds even without memory behind it, and the process is killed when it uses it.
+// So the available memory is looked up first.
 bool isMemoryFor(qint64 bytes)
 {
     const qint64 always = qint64(64) << 20;

@@ -14,8 +14,8 @@ namespace Zorv {
 
 namespace {
 
-/// Sets a value; if it is another one, tells the canvas and, if wanted, the history. That of a
-/// layer that is not in the list would have a step that nobody sees.
+/// Sets a value. A change is signalled to the canvas and, if wanted, recorded. A layer that is not
+/// in the list is not recorded: the user would not see what the step does.
 template <class Command, class Value>
 void exchange(ImageLayer* layer, Value& value, const Value& now, bool record)
 {
@@ -36,7 +36,7 @@ void exchange(ImageLayer* layer, Value& value, const Value& now, bool record)
         d.push(new Command(layer, before));
     }
     d.rowDiffers(layer);
-    // A name is not seen on the canvas.
+    // A name is not visible on the canvas.
     if (!std::is_same_v<Value, QString>) {
         d.looksDifferent(layer, layer->image().rect());
     }
@@ -126,7 +126,7 @@ void ImageLayer::setOpacity(double opacity, bool record)
     }
 }
 
-// Whoever asks a removed layer for its image gets it, as if it had never been packed.
+// Unpacking is transparent: whoever asks a removed layer for its image just gets it.
 void ImageLayer::unpack() const
 {
     if (m_packed) {

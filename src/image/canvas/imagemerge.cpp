@@ -9,9 +9,9 @@
 #include <algorithm>
 #include <cstring>
 
-// Of an indexed canvas most pixels are decided by the top layer, whose row is copied where all of
-// it is opaque. Only the others are looked up layer by layer. As most palettes have one entry that
-// is not opaque, the first look at a row is a search for one byte.
+// In an indexed canvas the top layer decides most pixels: opaque parts of its rows are copied, and
+// only the other pixels are looked up layer by layer. Most palettes have just one entry that is not
+// opaque, so the end of an opaque part is found by searching for one byte.
 
 namespace Zorv {
 
@@ -19,7 +19,7 @@ namespace {
 
 const int Opaque = 255;
 
-/// What a pixel has in which nothing shows.
+/// The index of a pixel in which nothing is visible.
 quint8 emptyEntry(const PaletteColors& colors)
 {
     return quint8(std::max(colors.transparent(), 0));
@@ -63,7 +63,7 @@ public:
     }
 
 private:
-    /// The end of the opaque pixels of the top layer from `x` on.
+    /// The end of the opaque pixels of the top layer, starting at `x`.
     int opaqueEnd(int x, int end) const
     {
         if (x >= end) {
@@ -109,7 +109,7 @@ private:
         return m_collected.size() == 1 ? m_collected.front() : m_colors.nearest(mixed());
     }
 
-    /// From the lowest colour on each channel goes half the way to that of the next one above.
+    /// Averages from the bottom up: each colour is mixed half and half with the one above it.
     QRgb mixed() const
     {
         const auto half = [](int low, int high) { return low + ((high - low) >> 1); };
@@ -129,11 +129,11 @@ private:
     int m_notOpaqueCount = 0;
     int m_lastNotOpaque = -1;
     quint8 m_empty;
-    std::vector<const quint8*> m_rows;  ///< of the layers that have the row
-    std::vector<quint8> m_collected;    ///< entries of a pixel, the top one first
+    std::vector<const quint8*> m_rows;  ///< null for a layer without that row
+    std::vector<quint8> m_collected;    ///< the visible entries at a pixel, the top one first
 };
 
-/// A part of an image, which need not have all of it.
+/// A part of an image, filled up where the image is smaller.
 QImage copyOf(const QImage& image, const QRect& part, quint32 fill)
 {
     return placed(image, part.size(), -part.topLeft(), fill);
@@ -168,7 +168,8 @@ QImage mergeIndexed(const std::vector<QImage>& layers, const QRect& part,
 
 QImage mergeColors(const std::vector<const ImageLayer*>& layers, const QRect& part)
 {
-    // Drawing goes through premultiplied colours, which loses bits of what is half transparent.
+    // Copied, not drawn: drawing uses premultiplied colours and loses bits of half transparent
+    // ones.
     if (layers.size() == 1) {
         const ImageLayer& layer = *layers.front();
         if (layer.blendMode() == QPainter::CompositionMode_SourceOver && layer.opacity() == 1.0 &&

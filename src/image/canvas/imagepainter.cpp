@@ -13,7 +13,8 @@ namespace Zorv {
 
 namespace {
 
-// A long line is announced by pieces of so many rows: around all of it lies most of the image.
+// Long lines are announced in pieces of this many rows: the rectangle around a whole line would
+// cover most of the image.
 const int AnnouncedRows = 64;
 
 }  // namespace
@@ -47,7 +48,7 @@ void ImagePainter::line(const QPoint& from, const QPoint& to)
     }
 }
 
-/// Paints those rows of a line. False if the announcement is refused.
+/// Paints some rows of a line. Returns false if the announcement is refused.
 bool ImagePainter::paintPiece(const BrushLine& brush, const QRect& piece)
 {
     m_runs.resize(std::size_t(piece.height()));
@@ -89,8 +90,7 @@ void ImagePainter::floodFill(const QPoint& point)
     region.paint(*m_image, value);
 }
 
-/// What `setPixel()` makes of a pixel. All pixels of a fill are equal, so it makes the same of
-/// them.
+/// The value that `setPixel()` gives a pixel. All pixels of a fill are equal, so one is enough.
 quint32 ImagePainter::fillValue(const QPoint& point)
 {
     QImage* image = m_image;
@@ -102,7 +102,7 @@ quint32 ImagePainter::fillValue(const QPoint& point)
     return value;
 }
 
-/// A pixel of 8 or 32 bits, whatever the form.
+/// A pixel of 8 or 32 bits, whatever the format.
 quint32 ImagePainter::rawPixel(const QPoint& point) const
 {
     const uchar* row = m_image->constScanLine(point.y());
@@ -110,7 +110,7 @@ quint32 ImagePainter::rawPixel(const QPoint& point) const
                                  : reinterpret_cast<const quint32*>(row)[point.x()];
 }
 
-/// Where image and mask both are. No image of any other depth is painted.
+/// The area inside both image and mask. Empty for an image of another depth.
 QRect ImagePainter::paintable() const
 {
     const bool isUsable = m_image && (m_image->depth() == 8 || m_image->depth() == 32);

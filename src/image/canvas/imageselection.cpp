@@ -31,7 +31,7 @@ bool isAllSelected(const QImage& mask)
     return true;
 }
 
-/// Makes 1 of all that is above, which has no entry in the table.
+/// Changes values above 1, which have no table entry, to 1.
 void normalize(QImage& mask)
 {
     const Raster<const quint8> pixels(qAsConst(mask));

@@ -11,6 +11,17 @@
 #include <utility>
 #include <vector>
 
+// Steps are in a deque, the oldest first; `index` is how many of them are done. Each step knows its
+// bytes. Memory is limited in three stages:
+// - When the unpacked steps exceed a quarter of the budget, each new step packs (compresses) some
+//   of the oldest ones. `firstLoose` is how far this has come.
+// - Over the budget, the steps farthest from the present are packed completely.
+// - If that is not enough for a new step, the oldest steps are dropped. Undo and redo exchange data
+//   with the canvas; the step that moved is then measured anew.
+//
+// A pending stroke is not a step yet. Operations call `finishPending()` first, which pushes it.
+// Change signals are sent only by `tell()`, which compares with what was sent last.
+
 namespace Zorv {
 
 namespace {
@@ -18,9 +29,9 @@ namespace {
 using Step = UndoStep;
 using Command = UndoStep::Command;
 
-// Packing takes time, and so does an undo of what is packed: it begins with the oldest steps when
-// so much of the budget is not packed. Each step then pays for as many bytes as it adds, and for
-// these at least.
+// Packing costs time, and so does undoing a packed step. So packing starts with the oldest steps,
+// when the unpacked ones exceed this share of the budget. Each new step packs as many bytes as it
+// adds, but at least `PackedAtOnce`.
 const int LooseShare = 4;
 const qint64 PackedAtOnce = qint64(256) << 10;
 
@@ -29,7 +40,7 @@ const qint64 PackedAtOnce = qint64(256) << 10;
 class ImageUndoStackPrivate : public UndoSteps
 {
 public:
-    /// What views were told last.
+    /// The state that was signalled last.
     struct Shown
     {
         int index = 0;
@@ -58,7 +69,7 @@ public:
     ImageUndoStack* const q;
     qint64 budget = ImageUndoStack::DefaultBudget;
     Step macro;
-    std::vector<std::size_t> macroBegins;  ///< where each open macro begins among its commands
+    std::vector<std::size_t> macroBegins;  ///< for each open macro, its first command
     std::function<void()> pending;
     QString pendingText;
     bool moving = false;
@@ -94,7 +105,7 @@ void ImageUndoStackPrivate::add(Step step)
     keepToBudget();
 }
 
-// A step that is clean stays as it is, so that its state can be reached again.
+// Never merges into a clean step: its state could not be reached again.
 bool ImageUndoStackPrivate::merge(ImageUndoCommand* command)
 {
     if (index == 0 || cleanIndex == int(index) || steps.back().sealed ||
@@ -136,7 +147,7 @@ void ImageUndoStackPrivate::loosenFrom(std::size_t place)
     }
 }
 
-// What a step holds when it has moved is fresh, and not packed.
+// After moving, a step holds new data that is not packed.
 void ImageUndoStackPrivate::moveTo(std::size_t place, void (Step::*act)())
 {
     moving = true;
@@ -165,7 +176,7 @@ void ImageUndoStackPrivate::packOld()
     }
 }
 
-// Beyond the budget, the steps that are farthest from a place first.
+// Over the budget, packs steps, the farthest from `place` first.
 void ImageUndoStackPrivate::packFarFrom(std::size_t place)
 {
     std::size_t first = firstLoose;
@@ -191,7 +202,7 @@ void ImageUndoStackPrivate::keepToBudget()
         }
         steps.pop_front();
         --index;
-        // The clean state is lost once the step behind it is.
+        // The clean state is lost with the step that follows it.
         cleanIndex = std::max(cleanIndex - 1, -1);
     }
 }
@@ -226,7 +237,7 @@ ImageUndoStack::ImageUndoStack(QObject* parent)
 {
 }
 
-// Commands may hold the last references to layers; those of later steps go first.
+// Deletes later commands first: they may hold the last references to layers.
 ImageUndoStack::~ImageUndoStack()
 {
     d->macro.shrink(0);

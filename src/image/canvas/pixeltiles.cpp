@@ -8,10 +8,10 @@ namespace Zorv {
 
 namespace {
 
-// What one tile costs beside its pixels: a node of the map and the head of the array.
+// The memory of a tile in addition to its pixels: a map node and an array header.
 const qint64 TileOverhead = 112;
 
-// Packing is for what is seldom needed again, but an undo waits for it: the fastest level.
+// The fastest level: packed tiles are seldom needed, but an undo waits for them.
 const int PackLevel = 1;
 
 }  // namespace

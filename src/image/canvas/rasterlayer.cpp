@@ -18,7 +18,7 @@ namespace Zorv {
 
 namespace {
 
-/// The image with the table of its canvas, which the image operations need to mix colours.
+/// The image with the colours of the palette, which image operations need to mix colours.
 QImage withColors(const ImageLayer& layer)
 {
     return layer.image().format() == QImage::Format_Indexed8 && layer.canvas()
@@ -26,7 +26,7 @@ QImage withColors(const ImageLayer& layer)
                : layer.image();
 }
 
-/// Replaces the image as a step of undo; false for a null image.
+/// Replaces the image as an undo step; false for a null image.
 bool replace(ImageLayer* layer, const QImage& image)
 {
     const QImage after = layerImage(image);
@@ -49,8 +49,8 @@ bool replace(ImageLayer* layer, const QImage& image)
     return true;
 }
 
-/// An operation gives back what it is given if there is nothing to do, and that may be a view of
-/// pixels which the layer is about to give up.
+/// An operation with nothing to do returns its input. That may be a view (`indexedView()`) of
+/// pixels that the layer is about to release, so the layer's own image is returned instead.
 QImage owned(const QImage& result, const ImageLayer& layer)
 {
     return result.constBits() == layer.image().constBits() ? layer.image() : result;

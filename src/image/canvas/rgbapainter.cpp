@@ -76,7 +76,8 @@ void RGBAPainter::paintRuns(int top, const std::vector<Run>& runs)
 
 void RGBAPainter::paintRun(QRgb* row, int y, Run run)
 {
-    // Pixels beside each other are often equal, and to find their entry takes long.
+    // Neighbouring pixels are often equal, and finding their entry is slow: so the last one is
+    // cached.
     std::optional<QRgb> last;
     std::optional<QRgb> result;
     for (int x = run.left; x <= run.right; ++x) {
@@ -93,7 +94,7 @@ void RGBAPainter::paintRun(QRgb* row, int y, Run run)
     }
 }
 
-/// What becomes of a pixel, if it may be painted.
+/// The new value of a pixel; none if it may not be painted.
 std::optional<QRgb> RGBAPainter::mapped(QRgb pixel) const
 {
     if (m_remap.isEmpty()) {

@@ -38,13 +38,13 @@ int scaledSide(int side, double factor)
     return int(qBound(1.0, std::round(side * factor), double(ImageCanvas::MaxSide)));
 }
 
-/// In front of the middle, in it or behind it.
+/// The part of the new space that goes before the picture: none, half or all.
 int shareOf(int room, int column)
 {
     return column == 0 ? 0 : column == 1 ? room >> 1 : room;
 }
 
-/// What a person sees of a picture whose canvas is changed.
+/// The picture as it looks after a change of the canvas size.
 QImage placed(const QImage& picture, const QSize& size, const QPoint& position)
 {
     return picture.convertToFormat(QImage::Format_ARGB32).copy(QRect(-position, size));
@@ -121,7 +121,7 @@ void ImgResizeDlg::connectAll()
     connect(m_anchor, &QButtonGroup::idClicked, this, &ImgResizeDlg::update);
 }
 
-/// The other side follows where the picture keeps its shape.
+/// Adapts the other side if the picture keeps its proportions.
 void ImgResizeDlg::sideChanged(bool isWidth)
 {
     int width = m_width->value();
@@ -173,7 +173,7 @@ QPoint ImgResizeDlg::position() const
     return positionIn(m_before, chosenSize());
 }
 
-/// Made of a small picture, to a size that is shown.
+/// Updates fields and preview. The preview is made from the reduced picture, to be fast.
 void ImgResizeDlg::update()
 {
     const bool scales = mode() == ScalePicture;

@@ -4,7 +4,7 @@
 
 namespace {
 
-/// Makes the texts of this file known to translators.
+/// The context of the texts of this file for translators.
 class Text
 {
     Q_DECLARE_TR_FUNCTIONS(ResizeFilters)

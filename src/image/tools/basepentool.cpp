@@ -33,7 +33,8 @@ QSlider* newSlider()
 class BasePenToolPrivate
 {
 public:
-    /// A line that follows the mouse. What it covers is given back before it is drawn anew.
+    /// A straight line that follows the mouse. Each move restores what it covered and draws it
+    /// anew.
     struct Straight
     {
         QPoint anchor;
@@ -50,8 +51,8 @@ public:
     bool isStroking = false;
     StrokeBrush brush;
     std::optional<Straight> straight;
-    QRect written;                    ///< by the draw that goes on
-    ImageLayer* lastLayer = nullptr;  ///< of the last stroke; compared only
+    QRect written;                    ///< by the current `draw()`
+    ImageLayer* lastLayer = nullptr;  ///< of the last stroke; only compared, never dereferenced
     std::optional<QPoint> lastDrawn;
 };
 
@@ -213,7 +214,7 @@ void BasePenTool::beginStroke()
     }
 }
 
-/// Also called when the canvas has ended the stroke.
+/// Also called when the canvas has ended the stroke itself.
 void BasePenTool::endStroke()
 {
     if (!d->isStroking) {
@@ -266,7 +267,7 @@ bool BasePenTool::announce(const QRect& rect)
     return true;
 }
 
-/// Draws the line from where it was begun anew, for the mouse has moved.
+/// Draws the line again from its anchor, because the mouse has moved.
 void BasePenTool::drawStraight(const QPoint& point)
 {
     ImagePainter* painter = strokePainter();

@@ -34,7 +34,7 @@ void CanvasMoveTool::mouseMoved(Qt::KeyboardModifiers, QPoint screen, QPoint ima
     setLastPos(image);
     cursor = isPressed() ? Qt::ClosedHandCursor : Qt::OpenHandCursor;
     if (isPressed()) {
-        // The wheel may have zoomed meanwhile, about the mouse.
+        // The wheel may have zoomed about the mouse in the meantime, which moves the picture, too.
         m_position += canvas()->position() - m_shown;
         canvas()->setPosition(m_position + screen - pressPos());
         m_shown = canvas()->position();

@@ -16,7 +16,7 @@ int lightness(QRgb color)
     return 299 * qRed(color) + 587 * qGreen(color) + 114 * qBlue(color);
 }
 
-/// 1 for a step to a lighter colour, -1 for one to a darker, 0 if the two are of no ramp.
+/// 1 if `b` is lighter, -1 if it is darker, 0 if the two cannot be neighbours in a ramp.
 int direction(QRgb a, QRgb b)
 {
     const int step = std::max({std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)),

@@ -13,11 +13,16 @@
 #include <algorithm>
 #include <cstring>
 
+// Two full images make a move repeatable: the layer as it was (`m_before`), and the layer with the
+// background where the piece was lifted off (`m_rest`). Showing the piece at an offset copies the
+// rectangle from `m_rest` and draws the piece from `m_before` over it. So nothing accumulates: the
+// piece can be moved over other pixels and back.
+
 namespace Zorv {
 
 namespace {
 
-/// The bytes; colour tables do not count.
+/// Compares pixel bytes only; colour tables do not count.
 bool areEqual(const QImage& a, const QImage& b)
 {
     if (a.size() != b.size() || a.format() != b.format()) {
@@ -44,7 +49,7 @@ void copyPart(const QImage& from, QImage& to, const QRect& rect)
 
 QRect selectedRect(const QImage& mask)
 {
-    // A table would hide entries that it shows as transparent.
+    // With its table, entries shown as transparent would not count.
     QImage plain = mask;
     plain.setColorCount(0);
     return cropImageRect(plain);
@@ -115,7 +120,7 @@ void MovedPiece::putIndexed(QImage& image, const QRect& rect, const QPoint& offs
     }
 }
 
-/// The entry nearest to half of each colour.
+/// The entry nearest to the average of both colours.
 quint8 MovedPiece::mixed(quint8 upper, quint8 lower)
 {
     const auto key = quint16(upper << 8 | lower);
@@ -133,7 +138,8 @@ quint8 MovedPiece::mixed(quint8 upper, quint8 lower)
 
 void MovedPiece::putColors(QImage& image, const QRect& rect, const QPoint& offset) const
 {
-    // Drawn aside, for even what is transparent changes half-transparent pixels beneath a little.
+    // Drawn into a copy, and only visible pixels are taken from it: drawing even a transparent
+    // pixel slightly changes a half transparent one beneath, because of rounding.
     QImage drawn = image.copy(rect);
     QPainter painter(&drawn);
     painter.drawImage(QPoint(), m_before, rect.translated(-offset));

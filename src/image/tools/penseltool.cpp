@@ -45,7 +45,8 @@ void PenSelTool::beginRecord()
     canvas()->beginStroke(nullptr, ImageCanvas::TiledStroke, title());
 }
 
-// The mask is open to all only while it is painted on, for every painter asks it.
+// Painters ask the mask whether a pixel may be painted. While the mask itself is painted on, it
+// must allow pixels that are not selected yet, but only then.
 void PenSelTool::draw(const QPoint& point)
 {
     canvas()->selection()->enableQueries(m_takesAway);
@@ -57,7 +58,7 @@ void PenSelTool::doDraw(const QPoint& point, ImagePainter* painter)
 {
     painter->setColor(m_takesAway ? m_palette.background() : m_palette.foreground());
     paint(painter, point, Apart);
-    // What the mask knows of itself is not true any more.
+    // Invalidates the cached answer to "is everything selected?".
     canvas()->selection()->editMask();
 }
 

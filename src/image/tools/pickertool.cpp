@@ -50,7 +50,8 @@ void PickerTool::pick(ImagePainter* painter)
 
 void PickerTool::renderCursor(QPainter& painter, QPoint pos, double zoom)
 {
-    // A cross of four arms that leaves the pixel free, black beside white to show on any ground.
+    // A cross of four arms that leaves the pixel itself visible. Black next to white shows on any
+    // background.
     const int gap = std::max(1, qRound(zoom / 2));
     const int arm = 6;
     for (const int aside : {0, 1}) {

@@ -58,7 +58,7 @@ void RectSelTool::renderCursor(QPainter& painter, QPoint pos, double zoom)
     if (!isPressed()) {
         return;
     }
-    // From the middle of the pixel under the mouse, which is in, to the other end.
+    // From the pixel under the mouse, which is included, to the other end of the rectangle.
     const QPoint span = lastPos() - m_first;
     const auto length = [zoom](int pixels) { return qRound((std::abs(pixels) + 1) * zoom); };
     const QSize size(length(span.x()), length(span.y()));

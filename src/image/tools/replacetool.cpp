@@ -54,7 +54,8 @@ void ReplaceTool::activated()
     BasePenTool::activated();
     disconnect(m_follow);
     const ImagePalette* palette = canvas()->palette();
-    // What undo and drags in a grid change, its palette object does not tell.
+    // A `ColorPalette` is followed itself: its palette object does not signal undo and drags in the
+    // grid.
     if (const auto* grid = qobject_cast<const ColorPalette*>(palette)) {
         m_follow = connect(grid, &ColorPalette::paletteChanged, this, &ReplaceTool::palChanged);
     } else if (const PaletteObject* colors = palette->palette()) {
@@ -101,7 +102,7 @@ void ReplaceTool::doDraw(const QPoint& point, ImagePainter* painter)
             hasRows = true;
         }
     }
-    // Without a pair the painter would paint all pixels.
+    // Without a pair there is no remap, and the painter would paint all pixels.
     if (hasRows) {
         paint(painter, point, Apart);
     }
@@ -116,7 +117,7 @@ bool ReplaceTool::colorClicked(bool isRightButton, unsigned char index)
     }
     if (options && options->isShading()) {
         const ColorRamp ramp = ColorRamp::around(*canvas()->palette(), index);
-        // Of a long ramp the colour itself comes along.
+        // A ramp may have more steps than there are rows: start near the clicked colour.
         const int first = std::max<int>(ramp.first, index - PaletteRemapWidget::RowCount / 2);
         setRamp(static_cast<unsigned char>(first), ramp.last);
         return true;

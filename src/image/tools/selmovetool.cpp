@@ -15,7 +15,7 @@ namespace Zorv {
 
 namespace {
 
-// Steps by arrows become one by this number.
+// The merge number that joins consecutive arrow steps into one undo step.
 const int ArrowSteps = 0x5E1;
 
 }  // namespace
@@ -89,13 +89,14 @@ void SelMoveTool::mouseLost()
     endMove();
 }
 
-/// How far the mouse has come since the press, in pixels of the canvas.
+/// How far the mouse has moved since the press, in canvas pixels.
 QPoint SelMoveTool::dragged(QPoint screen, QPoint image) const
 {
     const QPointF way = QPointF(screen - pressPos()) / canvas()->zoomLevel();
     const QPoint rounded(qRound(way.x()), qRound(way.y()));
-    // Rounding the way moves the piece in the middle of pixels. But a view that shows the picture
-    // at another zoom than the canvas's is known by its pixels alone.
+    // Rounding the distance moves the piece when the mouse is halfway between pixels. But a
+    // view may show the picture at another zoom than the canvas has; then only the pixels are
+    // right.
     const QPoint pixels = image - m_pressPixel;
     const QPoint difference = rounded - pixels;
     const bool isAlike = std::max(std::abs(difference.x()), std::abs(difference.y())) <= 1;
@@ -116,7 +117,7 @@ void SelMoveTool::beginMove(int mergeId)
     m_isMoving = true;
 }
 
-/// Also called when the canvas has ended the stroke.
+/// Also called when the canvas has ended the stroke itself.
 void SelMoveTool::endMove()
 {
     if (m_isMoving) {

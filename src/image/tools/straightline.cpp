@@ -5,6 +5,10 @@
 #include <algorithm>
 #include <cstdlib>
 
+// A line with runs of n pixels has the slope 1/n. For each n from 1 to 4, the number of runs is
+// chosen so that the end of the line is nearest to the pointer; the horizontal or vertical line is
+// one more candidate. The candidate whose end is nearest to the pointer wins.
+
 namespace Zorv {
 
 namespace {
@@ -34,7 +38,7 @@ StraightLine StraightLine::towards(const QPoint& from, const QPoint& to)
         StraightLine line = nearest;
         line.across = isWide ? down : right;
         line.length = length;
-        // The foot of the pointer on a line that goes `length` along with each step across.
+        // Projects the pointer onto a line that goes `length` pixels along for each step across.
         const double foot = (double(longer) * length + shorter) / (length * length + 1.0);
         line.runs = std::max(1, qRound(foot));
         const double other = squaredLength(to - line.end());

@@ -8,15 +8,18 @@
 #include <algorithm>
 #include <cstdlib>
 
-// A corner shows itself one pixel late: the pixel between two others that touch by their corners is
-// too much. So each dot is painted at once, and given back what was there when the next one
-// comes.
+// Pixel-perfect strokes: a corner is a pixel between two others that touch each other diagonally.
+// It is recognised only when the pixel after it arrives. So each dot is painted at once with its
+// old pixels remembered, and restored when the next dot shows that it was a corner.
+//
+// Symmetry: each dot and line is painted once per copy, mirrored at the axes.
 
 namespace Zorv {
 
 namespace {
 
-// Nobody draws corners over such a distance, and it is not walked pixel by pixel.
+// Longer lines are painted whole, not walked pixel by pixel: nobody draws corners over such a
+// distance.
 const int LongestChain = 1 << 16;
 
 /// A pixel of 8 or 32 bits.
@@ -64,7 +67,7 @@ bool StrokeBrush::avoidsCorners(const ImagePainter& painter) const
     return m_options && m_options->isPixelPerfect() && painter.width() == 1;
 }
 
-/// The corners of the brush on all sides of the axes, each once, the point itself first.
+/// The top left corner of the brush and its mirrored copies, the original first.
 std::vector<QPoint> StrokeBrush::copiesOf(const QPoint& point, int width) const
 {
     std::vector<QPoint> copies = {point};
@@ -110,7 +113,7 @@ void StrokeBrush::line(ImagePainter* painter, const QPoint& from, const QPoint& 
         }
         return;
     }
-    // The same steps as those of the painter's line.
+    // Takes the same steps as the painter's line.
     const QPoint span = to - from;
     const auto part = [distance](int whole, int step) {
         return (whole < 0 ? -1 : 1) *
@@ -159,7 +162,8 @@ void StrokeBrush::addDot(ImagePainter* painter, const QPoint& point)
 void StrokeBrush::restore(ImagePainter* painter, const Dot& dot)
 {
     QImage* image = painter->image();
-    // Backwards, for on an axis two of them are the same pixel.
+    // In reverse order: on an axis two copies are the same pixel, and the first one saved is the
+    // oldest.
     for (auto pixel = dot.pixels.rbegin(); pixel != dot.pixels.rend(); ++pixel) {
         if (image && image->rect().contains(pixel->place) &&
             pixelOf(*image, pixel->place) != pixel->before) {

@@ -60,7 +60,7 @@ void StrokeOptions::setSymmetry(Symmetry symmetry)
 
 void StrokeOptions::setSymmetryAxis(const QPointF& axis)
 {
-    // Beyond that there is no canvas, and mirrored points would leave the range of numbers.
+    // No canvas is larger than that, and mirrored points beyond it could overflow.
     const double farthest = 65536;
     if (std::abs(axis.x()) <= farthest && std::abs(axis.y()) <= farthest) {
         set(m_axis, std::optional(QPointF(std::round(axis.x() * 2), std::round(axis.y() * 2)) / 2));

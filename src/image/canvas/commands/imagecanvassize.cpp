@@ -10,7 +10,7 @@ ImageCanvasSize::ImageCanvasSize(ImageCanvas* canvas, const QSize& before, const
     keep(maskBefore);
 }
 
-// Most masks select all, and then there is nothing to keep.
+// Most masks select everything; then there is nothing to keep.
 void ImageCanvasSize::keep(const QImage& mask)
 {
     ImageSelection selection;
