@@ -9,20 +9,20 @@ namespace Zorv {
 
 class Project;
 
-/// What PNG files tell of a sprite besides its pixels, under these keys of `QImage::text()`: the
+/// Keys of `QImage::text()` under which PNG files store what a sprite has besides its pixels: the
 /// axis as "X,Y", and the identifier of the palette.
 constexpr char AxisText[] = "axis";
 constexpr char PaletteText[] = "palette";
 
-/// The folder in which file dialogs for images begin: where the last one ended in this project,
-/// else the option "project_path". The project may be null.
+/// The folder in which image file dialogs start: where the last one ended in this project,
+/// otherwise the option "project_path". The project may be null.
 QString imageFolder(const Project* project);
 void keepImageFolder(Project* project, const QString& folder);
 
 /// The filter of dialogs that open images.
 QString imageFilter();
 
-/// The files of a drag that are images, by their suffix, in the order of dialogs.
+/// The image files in a drag, recognised by suffix, in the order that dialogs use.
 QStringList draggedImages(const QMimeData* data);
 
 }  // namespace Zorv

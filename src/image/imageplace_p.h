@@ -7,21 +7,22 @@
 
 namespace Zorv {
 
-/// Where the edge of a pixel falls on the middle of one of the screen, GL would draw either side.
-/// So the picture is moved by this part of a pixel of the screen, and so is what the pointer is on.
+/// Offset of the picture, as a fraction of a screen pixel. Where the edge of a picture pixel falls
+/// on the middle of a screen pixel, GL may draw either side. The same offset is applied to pointer
+/// positions, so they hit the pixel that is drawn.
 constexpr double DrawingShift = 1.0 / 64;
 
-/// Which of the two views.
+/// One of the two views.
 enum class ImageView { Original, Zoomed };
 
-/// Where a picture lies in its views.
+/// The geometry of a picture in its views.
 struct ImagePlace
 {
     QSize widget = QSize(0, 0);
     bool showOriginal = true;
     bool showZoomed = true;
     bool followOriginal = false;
-    QPoint position;  ///< of the middle of the picture, in each view
+    QPoint position;  ///< where the middle of the picture is, in each view
     double zoom = 1;
     QSize size = QSize(0, 0);  ///< of the picture
 
@@ -29,20 +30,20 @@ struct ImagePlace
     bool isSplit() const { return showOriginal && showZoomed; }
     int splitX() const { return isSplit() ? widget.width() / 2 : widget.width(); }
 
-    /// Half of the picture, an odd one rounded down.
+    /// The middle of the picture in canvas pixels, rounded down.
     QPoint center() const { return {size.width() / 2, size.height() / 2}; }
 
-    /// The middle of a view.
+    /// The middle of a view, relative to the view.
     QPoint middle() const { return {splitX() / 2, widget.height() / 2}; }
 
-    /// From the left of the view.
+    /// The picture, relative to the left of the view.
     QRect rect(ImageView view) const;
 
-    /// A view in the widget.
+    /// The rectangle of a view in the widget.
     QRect viewRect(ImageView view) const;
     double scale(ImageView view) const { return view == ImageView::Zoomed ? zoom : 1.0; }
 
-    /// Where the picture's corner stands in the widget.
+    /// The top left corner of the picture in the widget.
     QPoint corner(ImageView view) const;
 
     QPointF toCanvas(const QPointF& pos, ImageView view) const;
@@ -50,17 +51,19 @@ struct ImagePlace
 
     ImageView viewAt(const QPointF& pos) const;
 
-    /// The position with which what is at a place of the zoomed view stays there.
+    /// The position at which the point of the zoomed view under `fixed` stays there at the new
+    /// zoom.
     QPoint positionFor(double newZoom, const QPointF& fixed) const;
 
 private:
     QPoint followingCorner() const;
 };
 
-/// Far enough for all pictures, and so near that a few of them can be added.
+/// Rounds and limits a position: far enough for all pictures, but a few can be added without
+/// overflow.
 QPoint savePosition(const QPointF& position);
 
-/// The pixel that a point lies in.
+/// The pixel that contains a point.
 QPoint pixelOf(const QPointF& point);
 
 }  // namespace Zorv

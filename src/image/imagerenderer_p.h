@@ -18,18 +18,18 @@ class QStackedLayout;
 
 namespace Zorv {
 
-/// A frame one pixel wide, around a rectangle.
+/// Draws a frame one pixel wide around a rectangle.
 void drawOutline(QPainter& painter, const QRect& rect, const QColor& color);
 
-/// What the sources of the renderer share: input (imagepointer.cpp), keys (imagekeys.cpp), drawing
-/// (imagedrawing.cpp), the axes of symmetry (symmetrygrips.cpp) and that of the canvas
-/// (canvasaxis.cpp).
+/// State shared by the source files of the renderer: input (imagepointer.cpp), keys
+/// (imagekeys.cpp), drawing (imagedrawing.cpp), symmetry axes (symmetrygrips.cpp) and the canvas
+/// axis (canvasaxis.cpp).
 class ImageRendererPrivate
 {
 public:
     static constexpr int Tools = ImageTool::FloodFillTool + 1;
 
-    /// What a grip moves: an axis of symmetry, or the axis of the canvas.
+    /// What a grip drags: a symmetry axis, or the canvas axis.
     enum Grip { NoGrip, UprightGrip, LevelGrip, AxisGrip };
 
     ImageRendererPrivate(ImageRenderer* renderer, ImagePalette* palette);
@@ -38,10 +38,10 @@ public:
     void addTools();
     void follow();
 
-    /// Where everything is now.
+    /// The present geometry.
     ImagePlace place() const;
 
-    /// Changes the widget or the views. What is in the middle of a view stays there.
+    /// Changes the widget size or the views. What is in the middle of a view stays there.
     template <class Act>
     void changeViews(Act act)
     {
@@ -59,13 +59,14 @@ public:
     /// @name Input
     /// @{
 
-    /// Notes the place of a mouse call.
+    /// Records the position of a mouse event.
     void setPointer(QPoint pos);
 
-    /// The exact place of a mouse call, in the middle of the pixel of the screen.
+    /// The exact position of a mouse event, in the middle of the screen pixel.
     QPointF exactPlace(QPoint pos) const;
 
-    /// What a tool is told for a place: with centred brushes the corner of the square around it.
+    /// The pixel to pass to a tool: with centred brushes, the corner of the square around the
+    /// position.
     QPoint toolPixel(const QPointF& pos, ImageView view) const;
     QPoint toolPixel(QPoint pixel) const;
 
@@ -75,10 +76,10 @@ public:
     void release(QPoint pos, QPoint pixel, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
     void move(QPoint pos, QPoint pixel, Qt::KeyboardModifiers modifiers);
 
-    /// A move where the pointer is, after the tool or what it does has changed.
+    /// Repeats the last move, after the tool or its action has changed.
     void moveAgain();
 
-    /// The press ends without a release.
+    /// Ends the press without a release.
     void losePress();
 
     /// Lets a tool change the cursor of the widget.
@@ -90,7 +91,7 @@ public:
     void tellAgain();
     /// @}
 
-    /// @name The cell of the keys
+    /// @name The keyboard cell
     /// @{
     void moveCell(int key, Qt::KeyboardModifiers modifiers);
     void clickCell(Qt::KeyboardModifiers modifiers);
@@ -100,14 +101,14 @@ public:
     void bringIntoView(const QPoint& pixel);
     ImageView cellView() const;
 
-    /// The middle of a pixel on the screen.
+    /// The middle of a canvas pixel, in the widget.
     QPoint cellPlace(const QPoint& pixel) const;
     /// @}
 
     /// @name Grips
     /// @{
 
-    /// What a press would take hold of: nothing while the mouse moves the picture.
+    /// The grip that a press would take; none while the mouse moves the picture.
     Grip gripAt(const QPointF& pos, Qt::KeyboardModifiers modifiers) const;
     void takeGrip(const QPointF& pos, Qt::KeyboardModifiers modifiers);
     void dragGrip(const QPointF& pos);
@@ -121,17 +122,18 @@ public:
     void drawAxes(QPainter& painter, ImageView view) const;
     /// @}
 
-    /// @name The axis of the canvas
+    /// @name The canvas axis
     /// @{
     bool isAxisShown() const;
     QPoint axisPlace(ImageView view) const;
     QRect axisRect(ImageView view) const;
     void dragAxis(const QPointF& pos);
 
-    /// True if the key is one that moves the axis.
+    /// Returns true if the key is one that moves the axis.
     bool moveAxisBy(int key, Qt::KeyboardModifiers modifiers);
 
-    /// The axis, or the sprite, has become another one: a drag would go on from a wrong place.
+    /// Ends a drag of the axis, because the axis or the sprite has been replaced and the drag would
+    /// continue from a wrong place.
     void loseAxis();
     void drawCanvasAxis(QPainter& painter, ImageView view) const;
     /// @}
@@ -154,22 +156,22 @@ public:
 
     QColor topColor = Qt::lightGray;
     QColor bottomColor = Qt::gray;
-    unsigned shown = 0;  ///< of `ImageRenderer::Option`
+    unsigned shown = 0;  ///< flags of `ImageRenderer::Option`
     int changeDepth = 0;
-    ImagePlace views;  ///< place and zoom aside, which the canvas has
+    ImagePlace views;  ///< except position and zoom, which the canvas stores
 
     QPoint mousePos;
-    std::optional<QPointF> exact;  ///< told in front of the call; none if that is elsewhere
-    bool isOutside = true;         ///< of the widget, as far as is known
+    std::optional<QPointF> exact;  ///< sent before the mouse event; none if it is elsewhere
+    bool isOutside = true;  ///< whether the pointer is outside the widget, as far as is known
     bool isSpaceHeld = false;
     bool isPanning = false;
     qint64 wheelRest = 0;
     Qt::MouseButtons pressed;
     ImageTool* pressTool = nullptr;
     ImageView pressView = ImageView::Zoomed;
-    Grip grip = NoGrip;         ///< that is dragged
-    QPointF axisFromPointer;    ///< in pixels of the canvas, while the axis is dragged
-    bool isMovingAxis = false;  ///< what is heard of the axis comes from here
+    Grip grip = NoGrip;         ///< the one being dragged
+    QPointF axisFromPointer;    ///< in canvas pixels, while the axis is dragged
+    bool isMovingAxis = false;  ///< guards against re-entrance: the axis change comes from here
 
     bool isCellShown = false;
     bool isCellDragged = false;

@@ -12,10 +12,12 @@ class QPainter;
 
 namespace Zorv {
 
-/// The flattened picture of a canvas: layers on skins on a checkerboard, under the mask.
+/// The flattened picture of a canvas as drawn on the screen: checkerboard, onion skins, layers, and
+/// the darkening of the selection mask.
 ///
-/// It is kept in tiles, each made when it is shown first. A change marks a rectangle, of which what
-/// is shown is made anew with the next drawing. A tile is small enough for any GL to draw it.
+/// It is cached in tiles, which are created when they are first shown. A change marks a rectangle
+/// as dirty; the next drawing refreshes its visible part. Tiles are small enough for any GL to
+/// draw.
 class PictureTiles
 {
 public:
@@ -23,21 +25,22 @@ public:
 
     explicit PictureTiles(const ImageCanvas* canvas);
 
-    /// Forgets all pixels.
+    /// Drops all tiles.
     void reset(const QSize& size);
     QSize size() const { return m_size; }
 
     void setSkins(const std::vector<ImageRenderer::Skin>& skins);
     void setDirty(const QRect& rect);
 
-    /// What a drawing may do with a tile that is not as the canvas is.
+    /// What drawing does with an outdated tile.
     enum Freshness { Refreshed, AsTheyAre };
 
-    /// Draws the tiles that a part of the picture lies in, with the picture's corner at `corner`.
+    /// Draws the tiles that touch a part of the picture; `corner` is where the picture's corner
+    /// goes.
     void draw(QPainter& painter, const QPointF& corner, double zoom, const QRect& part,
               Freshness freshness);
 
-    /// Ends a painting: if there are too many tiles, those that were not drawn in it go.
+    /// Ends a painting. If there are too many tiles, drops all that were not drawn in it.
     void trim();
 
 private:

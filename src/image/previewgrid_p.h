@@ -7,32 +7,32 @@
 
 namespace Zorv {
 
-/// Where pictures of one size stand in a window, in pixels of the screen.
+/// Lays out pictures of one size in a window, in screen pixels.
 ///
-/// Rows and columns are those that leave the most room to a picture. It is enlarged by a whole
-/// number, or becomes smaller by one.
+/// It uses the number of columns that makes pictures largest. Pictures are scaled up or down by a
+/// whole number.
 class ZORV_EXPORT PreviewGrid
 {
 public:
     PreviewGrid() = default;
 
-    /// `label` is the room for the name below a picture, whose width is given where there is some
-    /// to spare; `gap` stands between all.
+    /// `label` is the size of the name below a picture; its width is used where there is space.
+    /// `gap` is the space between all cells.
     PreviewGrid(const QSize& window, const QSize& picture, int count, const QSize& label, int gap);
 
     int count() const { return m_count; }
 
-    /// All empty where there is no room, or nothing to show.
+    /// Both are empty if there is no space, or nothing to show.
     QRect picture(int index) const;
     QRect label(int index) const;
 
-    /// Picture and label.
+    /// Picture and label together.
     QRect cell(int index) const;
 
-    /// The cell below a place, -1 for none.
+    /// The cell at a point, or -1.
     int indexAt(const QPoint& place) const;
 
-    /// Where a part of the picture is seen.
+    /// The screen rectangle of a part of the picture.
     QRect part(int index, const QRect& pixels) const;
 
 private:
@@ -42,10 +42,10 @@ private:
     int m_columns = 1;
     int m_label = 0;
     int m_gap = 0;
-    int m_zoom = 1;     // pixels of the screen for one
-    int m_divisor = 1;  // pixels for one of the screen
-    QSize m_size;       // of a picture as it is shown
-    int m_width = 0;    // of it, or of its name
+    int m_zoom = 1;     // screen pixels per picture pixel
+    int m_divisor = 1;  // picture pixels per screen pixel
+    QSize m_size;       // of a picture on the screen
+    int m_width = 0;    // of a column: the picture or its name
 };
 
 }  // namespace Zorv

@@ -13,33 +13,33 @@ namespace Zorv {
 class Sprite;
 class Sprites;
 
-/// An image that was read from a file.
+/// An image read from a file.
 struct ImageRead
 {
     QImage image;
-    QPoint corner;  ///< what was cut off in front of it
+    QPoint corner;  ///< how much was cropped at the left and the top
     QString error;
-    std::shared_ptr<const PreparedImage> prepared;  ///< the image, ready for a sprite
+    std::shared_ptr<const PreparedImage> prepared;  ///< the image, prepared for a sprite
 };
 
-/// Reads an image file, and cuts off what does not show. Re-entrant.
+/// Reads an image file, with or without cropping transparent edges. Re-entrant.
 ImageRead loadCroppedImage(const QString& fileName);
 ImageRead loadNonCroppedImage(const QString& fileName);
 
-/// Image files on their way into a collection, as one step of undo.
+/// Adds image files to a collection, as one undo step.
 ///
-/// Files are read, decoded and made ready for sprites on other threads; sprites are made in this
-/// one, in the order of the files. Events are processed meanwhile, but the collection does not go:
-/// it has an open change.
+/// Files are read, decoded and prepared on worker threads; sprites are made on the calling thread,
+/// in the order of the files. Events are processed meanwhile. The collection cannot be deleted
+/// then, because it has an open change.
 class SpriteAdding
 {
 public:
     SpriteAdding(Sprites* sprites, const QStringList& files, const QList<QVariant>& identifiers);
 
-    /// Adds them. With progress, by which the person can give up: nothing comes then.
+    /// Adds them, with a progress display. If the user cancels it, nothing is added.
     void run(bool isCropped);
 
-    /// Why files were left out, a line each for the person.
+    /// Why files were left out, one line each for the user.
     QStringList errors() const { return m_errors; }
 
 private:
@@ -50,7 +50,7 @@ private:
     QPointer<Sprites> m_sprites;
     QStringList m_files;
     QList<QVariant> m_identifiers;
-    QVector<int> m_empty;  ///< of those that came, without the pixels that they were to have
+    QVector<int> m_empty;  ///< indices of added sprites that did not get their pixels
     QStringList m_errors;
     int m_count = 0;
 };

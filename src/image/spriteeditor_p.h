@@ -38,16 +38,16 @@ class Palette;
 
 using EntryColors = std::array<RGBA, 256>;
 
-/// The canvas of a sprite that is not shown.
+/// The canvas of a sprite that is not shown at the moment.
 struct KeptCanvas
 {
     QPointer<Sprites> sprites;
-    const Sprite* record = nullptr;  // null once its file was read anew
+    const Sprite* record = nullptr;  // null once its file was read again
     QVariant identifier;
     QImage loaded;
     QPoint loadedAxis;
-    EntryColors colors{};               // of its palette, once orders are remembered
-    PaletteOrder places = sameOrder();  // where its indices have gone meanwhile
+    EntryColors colors{};               // of its palette, from the first order on
+    PaletteOrder places = sameOrder();  // where its indices have moved meanwhile
     bool hasToldHidden = false;
     std::unique_ptr<CanvasContent> content;
     qint64 bytes = 0;
@@ -102,7 +102,7 @@ public:
     bool isAway() const;
     void showPalettes();
 
-    /// The panel has the palettes of the canvas for as long as it lives.
+    /// Switches the palette panel to the canvas's palettes during its lifetime.
     class OwnPalettes
     {
     public:
@@ -209,25 +209,25 @@ public:
     ImageRenderer* renderer;
 
     QPointer<Sprites> sprites;
-    QPointer<Sprites> waiting;  // of the project in front, while the canvas keeps others
+    QPointer<Sprites> waiting;  // of the project in front, while unsaved work blocks them
     bool isWaiting = false;
     int row = -1;                   // of the sprite on the canvas, in `sprites`
-    const Sprite* shown = nullptr;  // its address; it may be gone
+    const Sprite* shown = nullptr;  // its address, only compared: it may be deleted
     QVariant identifier;
-    QImage loaded;  // as the sprite was when the canvas took it
+    QImage loaded;  // the sprite's picture when the canvas was loaded
     QPoint loadedAxis;
     EntryColors loadedColors{};         // of its palette then, or since the last move
-    QRect touched;                      // where the canvas may be different from that
-    QVector<ImageLayer*> storedHidden;  // the layers that were hidden when both were the same
+    QRect touched;                      // where the canvas may differ from `loaded`
+    QVector<ImageLayer*> storedHidden;  // the hidden layers when canvas and sprite were equal
     std::optional<bool> isKnownChanged;
-    const Palette* ownPalette = nullptr;  // when its colours were loaded; it may be gone
-    bool isOtherColors = false;           // the grid has some of no palette, to be looked at
-    bool isShowingOwn = false;            // the grid is about to have those of the picture
+    const Palette* ownPalette = nullptr;  // when its colours were loaded; it may be deleted
+    bool isOtherColors = false;           // the grid shows colours that belong to no palette
+    bool isShowingOwn = false;  // guard: the grid is about to show the picture's own colours
     bool hasToldHidden = false;
-    std::deque<KeptCanvas> kept;      // the one that was seen last is the last
-    std::deque<PaletteOrder> orders;  // that colours were put in, the last one last
-    int selGuard = 0;                 // the code itself changes the position
-    SpriteNumber followed;            // of the frame that was told last
+    std::deque<KeptCanvas> kept;      // least recently shown first
+    std::deque<PaletteOrder> orders;  // palette reorderings, the newest last
+    int selGuard = 0;                 // above 0 while the code itself changes the position
+    SpriteNumber followed;            // the number of the frame's sprite at the last call
 
     EditorTools published{this, SpriteTexts::instance()};
     QPointer<QAction> editorAction;
@@ -269,11 +269,11 @@ public slots:
     void layerChosen(const QModelIndex& index);
 
 signals:
-    /// There are sprites; and one of them is in work.
+    /// There are sprites; and one of them is being edited.
     void fileEnabled(bool isEnabled);
     void spriteEnabled(bool isEnabled);
 
-    /// There is a canvas; and layers of it are mixed; and there are changes to save.
+    /// There is a canvas; and its layers can be blended; and there are changes to save.
     void enabled(bool isEnabled);
     void enabled2(bool isEnabled);
     void saveEnabled(bool isEnabled);

@@ -21,39 +21,39 @@ class PixelCopy;
 class Sprite;
 class Sprites;
 
-/// What an import of sprites did.
+/// The result of an import of sprites.
 struct SpriteImportResult
 {
-    bool isGivenUp = false;  ///< all was taken back
+    bool isGivenUp = false;  ///< cancelled: everything was undone
     int added = 0;
     int replaced = 0;
     int skipped = 0;
-    int refused = 0;     ///< of a name that no sprite can have
-    int palettes = 0;    ///< that the destination did not have
-    QStringList errors;  ///< why others were left out, a line each for the person
+    int refused = 0;     ///< invalid sprite names
+    int palettes = 0;    ///< palettes that were new to the destination
+    QStringList errors;  ///< why others were left out, one line each for the user
 
     int count() const { return added + replaced; }
 };
 
-/// Sprites of other collections on their way into one, with their palettes and axes, as one step of
-/// undo.
+/// Imports sprites of other collections with their palettes and axes, as one undo step.
 ///
-/// Entries are taken one by one: of two with the same identifier the second one meets the first as
-/// it would meet one that was there before. New sprites come behind the others. A palette whose
-/// colours the destination has is not added again. Pixels are read on other threads; events are
-/// processed meanwhile, so a source may go: what was not read of it is left out. The destination
-/// has an open change then.
+/// Entries are taken in order: if two have the same identifier, the second one conflicts with the
+/// first as with a sprite that was there before. New sprites go behind the others. A palette with
+/// colours that the destination already has is not added again. Pixels are read on worker threads.
+/// Events are processed meanwhile, so a source may be closed: what was not read yet is left out.
+/// The destination has an open change during this.
 class ZORV_EXPORT SpriteImport
 {
 public:
-    /// Plans; nothing is changed. `destination` must not be the list of an entry.
+    /// Only plans. `destination` must not be the list of an entry.
     SpriteImport(Sprites* destination, const QVector<ImportEntry>& entries,
                  ImportConflict conflicts);
 
-    /// True if the sprite of a row of the destination will be another one.
+    /// True if the import will replace the sprite of this row of the destination.
     bool replaces(int row) const;
 
-    /// With progress, by which the person can give up: nothing comes then. Once.
+    /// Runs the import with a progress display. If the user cancels it, nothing is imported. Call
+    /// it only once.
     SpriteImportResult run(const QString& title);
 
 private:
@@ -61,16 +61,16 @@ private:
     {
         ImportEntry entry;
         bool isNew = true;
-        QPersistentModelIndex replaced;  ///< of the destination, for one that is not new
+        QPersistentModelIndex replaced;  ///< row of the destination, if it is not new
     };
 
-    /// All of a sprite but its name.
+    /// A sprite to import, without its name.
     struct Arrival
     {
-        std::shared_ptr<PixelCopy> pixels;  ///< null if the sprite has gone
+        std::shared_ptr<PixelCopy> pixels;  ///< null if the sprite is gone
         bool isWhole = false;
         QPoint axis;
-        QByteArray colors;  ///< of its palette, all 256; empty without one
+        QByteArray colors;  ///< all 256 palette entries; empty without a palette
         QVariant paletteId;
     };
 
@@ -84,10 +84,10 @@ private:
 
     QPointer<Sprites> m_destination;
     QVector<Step> m_steps;
-    QHash<QByteArray, int> m_palettes;  // rows of the destination by their colours,
-    QHash<QByteArray, int> m_alike;     // and by these without the alpha of entry 0
+    QHash<QByteArray, int> m_palettes;  // rows of the destination by all colours,
+    QHash<QByteArray, int> m_alike;     // and by colours except the alpha of entry 0
     int m_addedCount = 0;
-    QVector<int> m_empty;  // of those that were added, without the pixels that they were to have
+    QVector<int> m_empty;  // indices of added sprites that did not get their pixels
     SpriteImportResult m_result;
 };
 

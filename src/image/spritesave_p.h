@@ -12,16 +12,15 @@ namespace Zorv {
 class Project;
 class Sprites;
 
-/// Sprites of a collection on their way to image files. The person says where to: a file for one
-/// sprite; for several a folder, or a name that the names of all begin with. PNG files keep axis
-/// and palette as texts.
+/// Saves sprites of a collection to image files. The user chooses where: a file for one sprite; for
+/// several a folder, or a common beginning of all names. PNG files store axis and palette as texts.
 ///
-/// The collection may change or die behind a dialog: what is not there any more is told.
+/// The collection may change or be closed during a dialog; sprites that are gone are reported.
 class SpriteSave
 {
 public:
-    /// What several files are called: by the numbers of the sprites, or like one name, "DIR/NAME"
-    /// and the identifier of the sprite behind it.
+    /// How several files are named: by the numbers of the sprites, or like one chosen name,
+    /// "DIR/NAME" followed by the identifier of the sprite.
     enum Naming { IntoFolder, LikeOneFile };
 
     struct Way
@@ -30,10 +29,10 @@ public:
         Naming naming;
     };
 
-    /// The rows to save; the folder is remembered with the project, which may be null.
+    /// The rows to save. The folder is remembered in the project, which may be null.
     SpriteSave(Sprites* sprites, const QVector<int>& rows, Project* project, const Way& way);
 
-    /// Asks, writes, and tells how that went.
+    /// Asks, writes, and reports the result.
     void run();
 
 private:
@@ -53,7 +52,7 @@ private:
     QPointer<Sprites> m_sprites;
     QPointer<Project> m_project;
     QVector<QPersistentModelIndex> m_rows;
-    QStringList m_names;  ///< of the files, without a suffix
+    QStringList m_names;  ///< file names without suffix
     QStringList m_paths;
     QStringList m_errors;
     QStringList m_warnings;

@@ -6,7 +6,7 @@
 
 namespace Zorv {
 
-/// The texts of the tools of the sprite editor that are not among those of `ZorvTranslator`.
+/// The texts of the sprite editor's tools that `ZorvTranslator` does not have.
 class SpriteTexts : public TextTable
 {
 public:
@@ -14,7 +14,7 @@ public:
 
     static SpriteTexts* instance();
 
-    /// The fixed title of a step of a canvas, for the person; the title itself if it is none.
+    /// The translated title of a canvas step; the title itself if it is unknown.
     static QString stepTitle(const QString& title);
 
 private:
