@@ -15,7 +15,7 @@ namespace Cli {
 
 class Output;
 
-/// An animation, and where it stands.
+/// An animation and its location.
 struct AnimationInFile
 {
     const Family::AnimationNode& animation;
@@ -23,7 +23,7 @@ struct AnimationInFile
     QString path;  ///< of the node in the file
 };
 
-/// Writes what contact boxes animations have.
+/// Prints the contact boxes of animations.
 class BoxListing
 {
 public:
@@ -32,7 +32,7 @@ public:
                      const Operations::AnimationBoxReport& report) = 0;
 };
 
-/// A line for each animation, frame and box.
+/// Prints a line for each animation, frame and box.
 class BoxLines final : public BoxListing
 {
 public:
@@ -47,7 +47,7 @@ private:
     QString m_file;
 };
 
-/// An object of JSON for each animation, with its frames on a line each.
+/// Prints a JSON object for each animation, with one line per frame.
 class BoxObjects final : public BoxListing
 {
 public:

@@ -4,8 +4,8 @@
 
 namespace Cli {
 
-/// As `Family::changeAsOne()`; gives the status of the last call of `change`, and only what that
-/// has said is told.
+/// Like `Operations::changeAsOne()`. Returns the status of the last call of `change`, and prints
+/// only the messages of that call.
 int changeFile(const QString& fileName, const std::function<int()>& change,
                Operations::Others others = Operations::Others::Wait);
 

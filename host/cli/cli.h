@@ -4,23 +4,24 @@
 
 namespace Cli {
 
-/// The status with which the program ends.
+/// The exit status of the program.
 enum ExitStatus {
     Fine = 0,
-    ProblemsFound = 1,             ///< of `check` alone
-    Different = ProblemsFound,     ///< of `diff` alone
-    NothingFound = ProblemsFound,  ///< of `find` alone
+    ProblemsFound = 1,             ///< only from `check`
+    Different = ProblemsFound,     ///< only from `diff`
+    NothingFound = ProblemsFound,  ///< only from `find`
     WrongUsage = 2,
-    NotDone = 3  ///< a file cannot be read or written, a path names nothing, ...
+    NotDone = 3  ///< a file cannot be read or written, a path does not exist, ...
 };
 
-/// True if the arguments, without the program's name, are for the command line:
-/// they begin with a command or an option of it, or with anything that could be
+/// True if the arguments (without the program name) are for the command line: they start with a
+/// command, one of its options, or something that could be meant as one. A path that exists is for
+/// the window.
 /// meant as one. A path that exists is for the window.
 bool isCommand(const QStringList& arguments);
 
-/// Runs a command to its end; gives the exit status. Needs a `QGuiApplication`,
-/// of any platform. Answers go to standard output, failures to standard error.
+/// Runs a command and returns the exit status. Needs a `QGuiApplication` on any platform. Results
+/// go to standard output, errors to standard error.
 int runCommand(const QStringList& arguments);
 
 }  // namespace Cli

@@ -8,32 +8,32 @@ namespace Cli {
 
 class Output;
 
-/// One command: a row of the table.
+/// A command: one row of the table.
 struct Command
 {
     static constexpr int Any = 1000000;
 
     const char* name;      ///< one or two words
-    const char* operands;  ///< as the usage shows them
-    int fewest;            ///< operands
+    const char* operands;  ///< as shown in the usage text
+    int fewest;            ///< minimum number of operands
     int most;
-    quint64 options;  ///< of `Option`
+    quint64 options;  ///< a combination of `Option`
     int (*run)(const Invocation& invocation, Output& output);
     const char* summary;  ///< one line
-    const char* details;  ///< several lines for `help`
+    const char* details;  ///< several lines, for `help`
 
     QString usage() const;
 };
 
-/// The rows in the order of `help`.
+/// The rows, in the order of `help`.
 const QVector<Command>& commands();
 
-/// The command that the arguments begin with, and in `words` of how many of
-/// them its name is; null if they begin with none.
+/// The command at the start of the arguments; `words` receives the number of words in its name.
+/// Null if there is none.
 const Command* findCommand(const QStringList& arguments, int* words);
 
-/// What stands behind the command's name. False, with `error`, if it is not
-/// what the command takes.
+/// Parses the arguments after the command name. False, with `error`, if the command does not accept
+/// them.
 bool parseArguments(const Command& command, const QStringList& arguments, Invocation* invocation,
                     QString* error);
 

@@ -4,15 +4,15 @@
 
 namespace Cli {
 
-/// Stands in for every dialog: prints its text on standard error and answers as
-/// a person who gives up. Installs itself, and takes itself away.
+/// Replaces all dialogs: prints their text to standard error and answers as a user who cancels.
+/// Installs and uninstalls itself.
 class CommandDialogs final : public Zorv::Dialogs
 {
 public:
     CommandDialogs();
     ~CommandDialogs() override;
 
-    /// True if something was asked or told that ends a command without success.
+    /// True if a question or message was shown that makes the command fail.
     bool wasShown() const { return m_shown; }
 
     Button question(const QString& title, const QString& text, Buttons buttons,

@@ -4,21 +4,21 @@
 
 namespace Cli {
 
-/// The signals that ask the program to end: they end it at once, wherever it is, and what it was
-/// writing is removed. A piece of work may put that off with `NotedSignals`.
+/// Handles the signals that ask the program to end. By default they end it at once, wherever it is,
+/// and delete the file being written. A command can postpone that with `NotedSignals`.
 ///
-/// A thread of its own does so: a signal comes in the middle of anything.
+/// A dedicated thread does this, because a signal can interrupt the program anywhere.
 class EndingSignals
 {
 public:
-    /// From now on; a signal that was ignored before stays so.
+    /// Starts watching. Signals that were ignored before stay ignored.
     static void watch();
 
-    /// The number of the last signal; 0 if none has come.
+    /// The number of the last signal; 0 if none has arrived.
     static int received();
 
-    /// How many pieces of work will end by themselves in a moment, and how many take the
-    /// time that they need.
+    /// The number of `NotedSignals` that will end their work in a moment, and of those that take
+    /// the time they need.
     static std::atomic<int> s_soon;
     static std::atomic<int> s_late;
 };

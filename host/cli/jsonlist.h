@@ -6,7 +6,7 @@ namespace Cli {
 
 class Output;
 
-/// A list of JSON objects, a line each.
+/// A list of JSON objects, one per line.
 class JsonList
 {
 public:

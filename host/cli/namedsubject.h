@@ -6,8 +6,8 @@
 
 namespace Cli {
 
-/// What the operands CHARACTER KIND NAME stand for, with the index of its game. None, with `error`
-/// unless the person has given up, if they stand for nothing.
+/// The subject that the operands CHARACTER KIND NAME refer to, with the index of its game. None if
+/// they match nothing; `error` is then set unless the user canceled.
 Operations::Subject namedSubject(const QStringList& operands,
                                  std::unique_ptr<Operations::ReferenceIndex>* index,
                                  QString* error);

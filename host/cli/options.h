@@ -16,7 +16,7 @@
 
 namespace Cli {
 
-/// What the person has asked for.
+/// What the user asked for on the command line.
 struct Invocation
 {
     QStringList operands;
@@ -24,14 +24,14 @@ struct Invocation
     bool dryRun = false;
     bool mends = false;
     bool noSafetyBackup = false;
-    int codec = -1;       ///< of `Zorv::TextCodecs`; negative to detect
-    QString engine;       ///< null if none was named
-    QString parameters;   ///< for the engine; null if none were given
-    bool trusts = false;  ///< the program of the game folder
+    int codec = -1;       ///< index in `Zorv::TextCodecs`; negative to detect
+    QString engine;       ///< null if not given
+    QString parameters;   ///< for the engine; null if not given
+    bool trusts = false;  ///< allows to run the program of the game folder
 
     Operations::OutputRequest output;  ///< --out, --format, --force
     Operations::Selection selection;
-    QString palette;  ///< an identifier or a file; null if none was named
+    QString palette;  ///< an identifier or a file; null if not given
     bool adapts = false;
     bool recolors = false;
     bool reverses = false;
@@ -41,27 +41,27 @@ struct Invocation
     bool leavesComments = false;
     bool hasInstances = false;
     bool isDescending = false;
-    bool hasCostumes = false;  ///< all palettes of a file go along with the one that is meant
-    int firstSlot = -1;        ///< of a palette; -1 if none was named
+    bool hasCostumes = false;  ///< all palettes of a file change together with the selected one
+    int firstSlot = -1;        ///< of a palette; -1 if not given
     int lastSlot = -1;
     Zorv::ColorSpace space = Zorv::ColorSpace::OKLab;
-    int columns = 0;  ///< 0 for as many as make the sheet about square
+    int columns = 0;  ///< 0 for an about square sheet
     int group = -1;
     QPoint axis;
     Operations::AxisBase axisBase = Operations::AxisBase::TopLeft;
     bool hasAxis = false;
-    QString pattern;  ///< of names; null if none was given
+    QString pattern;  ///< of names; null if not given
     bool isSheet = false;
     SheetForm sheet;
     int background = 0;
     int colors = 0;
-    QSize size;         ///< not valid if none was given
-    double factor = 0;  ///< 0 if none was given
+    QSize size;         ///< invalid if not given
+    double factor = 0;  ///< 0 if not given
     double angle = 0;
     Zorv::ImageResizeFilter filter = Zorv::ImageResizeFilter::Nearest;
-    QString coding;   ///< of pixels in a sprite file; null if none was named
-    QString sprites;  ///< a file; null if none was named
-    int frame = -1;   ///< counted from 0; -1 if none was named
+    QString coding;   ///< codec of pixels in a sprite file; null if not given
+    QString sprites;  ///< a file; null if not given
+    int frame = -1;   ///< counted from 0; -1 if not given
     double zoom = 1;
     bool showsBoxes = false;
     bool showsAxis = false;
@@ -71,11 +71,11 @@ struct Invocation
     bool skips = false;
     bool bringsSprites = false;
     QString animation;     ///< an identifier; null for all
-    QString templateName;  ///< null for the first of ours
-    int rate = 0;          ///< of sounds; 0 if none was named, and so the next two
+    QString templateName;  ///< null for the first shipped one
+    int rate = 0;          ///< of sounds; 0 if not given, likewise the next two
     int bits = 0;
     int channels = 0;
-    double from = -1;  ///< seconds; negative if none were named
+    double from = -1;  ///< seconds; negative if not given
     double to = -1;
     double silence = None;   ///< decibels
     double peak = None;      ///< decibels
@@ -88,7 +88,7 @@ struct Invocation
     static constexpr double None = 1;  ///< levels are below 0
 };
 
-/// The options of all commands. A command names those that it takes as flags.
+/// The options of all commands. Each command has the flags of the options that it accepts.
 enum Option : quint64 {
     NoOptions = 0,
     Json = 1u << 0,
@@ -157,25 +157,25 @@ enum Option : quint64 {
     Mend = quint64(1) << 58
 };
 
-/// One option: a row of the table.
+/// An option: one row of the table.
 struct OptionInfo
 {
     quint64 option;
     const char* name;   ///< "--json"
-    const char* value;  ///< what stands behind it, as the usage shows it; null for nothing
+    const char* value;  ///< its value as shown in the usage text; null if it has none
 
-    /// Takes it; `text` is what stands behind it. Gives what is wrong with that, or nothing.
+    /// Parses the value `text` into the invocation. Returns an error message, or nothing.
     QString (*take)(const QString& text, Invocation& invocation);
     const char* summary;  ///< one line
 };
 
-/// The rows in the order of the usage.
+/// The rows, in the order of the usage text.
 const QVector<OptionInfo>& options();
 
 /// "--encoding NAME".
 QString optionForm(const OptionInfo& option);
 
-/// The option of a name among those that are taken, "-o" for "--out"; null if it is none of them.
+/// Finds an option by name among those in `taken`; "-o" means "--out". Null if there is none.
 const OptionInfo* findOption(quint64 taken, const QString& name);
 
 }  // namespace Cli

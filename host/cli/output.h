@@ -7,26 +7,26 @@ class QJsonObject;
 
 namespace Cli {
 
-/// Standard output: UTF-8, gathered and checked.
+/// Standard output: UTF-8, buffered, with error checks.
 class Output
 {
 public:
     Output();
 
-    /// Writes a text as it is; on a terminal control characters become signs, as `printable()`
-    /// has them, but for line ends and tabs.
+    /// Writes a text. On a terminal, control characters except line ends and tabs are escaped as in
+    /// `printable()`.
     void write(const QString& text);
 
-    /// Writes texts with a tab between and a line end, each as `printable()`.
+    /// Writes columns separated by tabs, and a line end. Each is escaped by `printable()`.
     void writeLine(const QStringList& columns);
 
-    /// Writes bytes as they are, at once. False if any byte did not arrive.
+    /// Writes bytes unchanged and unbuffered. False if a byte could not be written.
     bool writeBytes(const QByteArray& bytes);
 
-    /// Writes what is still gathered. False if any byte did not arrive.
+    /// Flushes the buffer. False if a byte could not be written.
     bool finish();
 
-    /// True if nobody reads any more, which is no failure worth a word.
+    /// True if the reader has closed the pipe. That is not an error worth a message.
     bool isReaderGone() const { return m_readerGone; }
     QString errorString() const { return m_file.errorString(); }
 
@@ -40,10 +40,10 @@ private:
     bool m_readerGone = false;
 };
 
-/// Writes "zorv: " and a text on standard error.
+/// Writes "zorv: " and a text to standard error.
 void complain(const QString& text);
 
-/// While it lives, complaints wait: what is said may have to be taken back.
+/// Delays complaints while this object lives, because a repeated change may make them obsolete.
 class HeldComplaints
 {
 public:
@@ -59,11 +59,12 @@ private:
     QByteArray m_lines;
 };
 
-/// `text` on one line, and with nothing that a terminal would obey: control
-/// characters are written as "\x1b", line ends as "\n".
+/// Escapes a text so that it stays on one line and contains nothing that a terminal would
+/// interpret. Control characters become "\x1b", line ends "
+/// ".
 QString printable(const QString& text);
 
-/// An object on one line, its keys in the order of the alphabet.
+/// A JSON object on one line, with its keys sorted.
 QString jsonLine(const QJsonObject& object);
 
 }  // namespace Cli

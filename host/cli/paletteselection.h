@@ -10,8 +10,8 @@ namespace Cli {
 
 struct Invocation;
 
-/// The rows of the palettes that `--select` means. None, and that is told, if there is none such,
-/// or if there are several and nothing tells which one is meant.
+/// The rows of the palettes selected by `--select`. Prints an error and returns none if nothing
+/// matches, or if there are several palettes and none was selected.
 QVector<int> chosenPalettes(const Family::SpriteCollection& sprites, const Invocation& invocation);
 
 }  // namespace Cli

@@ -5,7 +5,7 @@
 
 namespace Cli {
 
-/// Shows how far the work is, and lets Ctrl+C end it where every file is whole.
+/// Shows progress, and lets Ctrl+C end the work at a point where every file is complete.
 class ProgressHost final : public Operations::HostInterface
 {
 public:

@@ -7,9 +7,9 @@
 
 namespace Cli {
 
-/// The state of a piece of work on the last line of the terminal: its title and
-/// how far it is. Nothing is drawn if standard error is no terminal. A signal that
-/// asks the program to end gives the work up; `NotedSignals` has to catch it.
+/// Shows the title and progress of the running work on the last line of the terminal. Draws nothing
+/// if standard error is not a terminal. A signal that asks the program to end cancels the work;
+/// this needs a `NotedSignals`.
 class ProgressLine final : public Zorv::ProgressReporter
 {
 public:
@@ -18,7 +18,7 @@ public:
     void update(int value, int maximum) override;
     bool isCanceled() const override;
 
-    /// Wipes the line out, and deletes the object.
+    /// Clears the line and deletes the object.
     void finish() override;
 
 private:

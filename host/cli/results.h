@@ -8,13 +8,13 @@ struct MediaResult;
 
 namespace Cli {
 
-/// Says what went wrong; gives the status.
+/// Prints the errors and warnings; returns the status.
 int tell(const Operations::MediaResult& result);
 
-/// Says it, unless it is empty because that was done; gives `NotDone`.
+/// Prints the error, if there is one; always returns `NotDone`.
 int notDone(const QString& error);
 
-/// Says how a command that was not used right has to be; gives `WrongUsage`.
+/// Prints how to use the command; returns `WrongUsage`.
 int wrongUsage(const QString& error);
 
 }  // namespace Cli

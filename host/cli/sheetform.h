@@ -6,15 +6,15 @@ class QString;
 
 namespace Cli {
 
-/// How pictures are cut.
+/// How to cut pictures into sprites.
 struct SheetForm
 {
-    bool hasFile = false;  ///< as the JSON beside each tells
+    bool hasFile = false;  ///< use the JSON file beside each picture
     Family::SheetCut cut;
 };
 
-/// Reads "json", "gaps", "cells=32x48" or "grid=8x4", the last two with any of ",edge=N", ",gap=N",
-/// ",count=N" and ",down" behind. False for any other text.
+/// Parses "json", "gaps", "cells=32x48" or "grid=8x4". The last two may be followed by any of
+/// ",edge=N", ",gap=N", ",count=N" and ",down". False for any other text.
 bool readSheetForm(const QString& text, SheetForm* form);
 
 }  // namespace Cli

@@ -14,17 +14,17 @@ namespace Cli {
 
 struct Invocation;
 
-/// The form of a sound as all commands print it: channels, bits, rate, frames, seconds.
+/// The format of a sound as all commands print it: channels, bits, rate, frames, seconds.
 QStringList columnsOf(const Zorv::SampleInfo& info);
 QJsonObject objectOf(const Zorv::SampleInfo& info);
 
-/// Adds which sound of a file it is.
+/// Adds the row and the identifier of a sound.
 void addPlace(QJsonObject* object, int row, Family::AssetId id);
 
-/// How much of WAV files is read.
+/// How much of WAV files to read.
 Operations::SoundExtent extentOf(const Invocation& invocation);
 
-/// As `tell()`; and how to get all of a file of which a part was read.
+/// Like `tell()`, plus a hint how to read all of a file that was read only partly.
 int tellOfParts(const Operations::MediaResult& result);
 
 }  // namespace Cli

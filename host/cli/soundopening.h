@@ -15,16 +15,16 @@ struct ReleaseSounds
     void operator()(Family::SoundFile* sounds) const;
 };
 
-/// The sounds of a file while a command works on them.
+/// The sounds of a file, open while a command works on them.
 using OpenSounds = std::unique_ptr<Family::SoundFile, ReleaseSounds>;
 
-/// Null if the file cannot be read. What is wrong with it is told.
+/// Null if the file cannot be read. Prints what is wrong with it.
 OpenSounds openSounds(const QString& fileName);
 
-/// The same; without sounds if the file is not there.
+/// Like `openSounds()`, but returns an empty collection if the file does not exist.
 OpenSounds openOrNewSounds(const QString& fileName);
 
-/// Writes them if anything has changed; gives the status.
+/// Saves the sounds if anything has changed; returns the status.
 int saveSounds(Family::SoundFile* sounds, const QString& fileName);
 
 }  // namespace Cli

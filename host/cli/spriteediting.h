@@ -6,9 +6,9 @@
 
 namespace Cli {
 
-/// Opens the sprites of a file, edits them, and writes them if anything has changed and the status
-/// that `edit` gives is fine; as one beside other programs, with the progress shown. Gives the
-/// status. `edit` may be called several times.
+/// Opens the sprites of a file and edits them, with progress. Saves them if anything has changed
+/// and `edit` returned `Fine`. Changes by other programs meanwhile are detected, so `edit` may be
+/// called several times. Returns the status.
 int editSpriteFile(const QString& fileName, OpenSprites::Kind kind,
                    const std::function<int(Family::SpriteCollection*)>& edit);
 

@@ -8,13 +8,14 @@ class SpriteCollection;
 
 namespace Cli {
 
-/// The sprites of a file or folder while a command works on them. What is wrong with them is told.
+/// The sprites of a file or folder, open while a command works on them. Prints what is wrong with
+/// them.
 class OpenSprites
 {
 public:
     enum Kind { There, OrNew };
 
-    /// With `OrNew` a file that is not there is an empty one.
+    /// With `OrNew`, a missing file counts as an empty one.
     explicit OpenSprites(const QString& path, Kind kind = There);
     ~OpenSprites();
 
@@ -23,7 +24,7 @@ public:
     Family::SpriteCollection* operator->() const { return m_sprites; }
     Family::SpriteCollection& operator*() const { return *m_sprites; }
 
-    /// Writes them if anything has changed; gives the status.
+    /// Saves the sprites if anything has changed; returns the status.
     int save(const QString& path) const;
 
 private:

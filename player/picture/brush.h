@@ -11,33 +11,33 @@ struct FramePose;
 
 namespace Player {
 
-/// How a frame is shown besides what its line says.
+/// How to draw a frame, in addition to its own line.
 struct Showing
 {
     double scaleX = 1;
     double scaleY = 1;
-    int facing = 1;  ///< -1 to the left: all of it is mirrored about the axis
+    int facing = 1;  ///< -1 for left: everything is mirrored at the axis
     Family::Mixture mixture = Family::Mixture::Over;
 };
 
-/// Draws frames on a canvas of `Format_ARGB32`, as the editor's stage shows them.
+/// Draws frames on a canvas of `Format_ARGB32`, like the stage of the editor.
 class Brush
 {
 public:
-    /// Both outlive the brush.
+    /// Both must outlive the brush.
     Brush(QImage* canvas, const Camera& camera) : m_canvas(canvas), m_camera(camera) {}
 
     const Camera& camera() const { return m_camera; }
     QRect canvas() const { return m_canvas->rect(); }
 
-    /// With the axis at a place of the canvas. Nothing without an image.
+    /// Draws with the axis at a point of the canvas. Draws nothing without an image.
     void draw(const Family::FrameData& frame, const Picture& picture, QPointF place,
               const Showing& showing = {});
 
-    /// What that covers when the place is that of the canvas's corner.
+    /// The area that it would cover with its axis at the canvas origin.
     QRect bounds(const Family::FrameData& frame, const Picture& picture) const;
 
-    /// A rectangle of the canvas.
+    /// Fills a rectangle of the canvas.
     void fill(const QRect& rect, QRgb color);
 
 private:

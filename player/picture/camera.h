@@ -11,24 +11,25 @@ struct State;
 
 namespace Player {
 
-/// Which part of a stage is seen, at the size at which pixels of the game are those of the picture.
+/// The visible part of a stage. One pixel of the picture is one pixel of the game.
 ///
-/// The middle goes with both fighters inside of what the stage allows. Nearer or farther is a
-/// smaller or larger picture, which the window shows at its own size.
+/// The middle follows both fighters, within the limits of the stage. Zooming changes the size of
+/// the picture; the window scales it to its own size.
 struct Camera
 {
-    /// Larger pictures are drawn smaller, by `zoom`.
+    /// Larger pictures are drawn scaled down, by `zoom`.
     static constexpr QSize LargestPicture{1920, 1080};
 
-    QSize size;         ///< of the picture, in its pixels
-    float zoom = 1;     ///< pixels of the picture for one of the game
-    double x = 0;       ///< of the middle, on the stage
-    double y = 0;       ///< likewise, at the usual distance
-    double rest = 0;    ///< `y` while both stand on the floor: there layers lie as they are written
-    double bottom = 0;  ///< from `y` to the lower edge, whatever the distance
+    QSize size;         ///< of the picture, in pixels
+    float zoom = 1;     ///< picture pixels per game pixel
+    double x = 0;       ///< middle, in stage coordinates
+    double y = 0;       ///< likewise, at the normal distance
+    double rest = 0;    ///< `y` while both stand on the floor: layers are then at their written
+                        ///< places
+    double bottom = 0;  ///< distance from `y` to the lower edge, at any zoom
     QPoint shake;
 
-    /// The pixel of a place of the stage, for what follows the camera so far.
+    /// The pixel of a point of the stage, for something that follows the camera by these factors.
     QPointF at(double placeX, double placeY, double followX = 1, double followY = 1) const;
 };
 

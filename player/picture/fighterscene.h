@@ -12,26 +12,26 @@ namespace Player {
 
 class Brush;
 
-/// One fighter as it is seen, in its costume, with its shadow and the sparks of its hits.
+/// Draws a fighter in its costume, with its shadow and the sparks of its hits.
 class FighterScene
 {
 public:
-    /// What a hit shows.
+    /// The kind of spark that a hit shows.
     enum class Spark { Light, Heavy, Guarded };
 
-    /// The data outlives the scene. `shadow` is the colour of shadows on the stage.
+    /// The data must outlive the scene. `shadow` is the shadow colour of the stage.
     FighterScene(const Rules::FighterData& data, const FighterLook& look, QRgb shadow, int costume);
 
     void draw(Brush* brush, const Rules::FighterState& state, int floor);
     void drawShadow(Brush* brush, const Rules::FighterState& state, int floor);
 
-    /// A spark so many ticks old, at a place of the stage. False if nothing is left of it.
+    /// Draws a spark that is `age` ticks old, at a point of the stage. False if it is over.
     bool drawSpark(Brush* brush, Spark spark, int age, QPoint place, int facing);
 
-    /// The costume behind the one that is worn; behind the last comes the first.
+    /// Switches to the next costume; after the last one to the first.
     void wearNext() { wear(m_costume + 1); }
 
-    /// Which costume is worn, and another one; beyond the last they begin again.
+    /// The index of the current costume. `wear()` wraps around after the last one.
     int costume() const { return m_costume; }
     void wear(int costume);
 

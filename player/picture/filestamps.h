@@ -6,15 +6,15 @@
 
 namespace Player {
 
-/// Whether files were written since.
+/// Detects changes of files by polling.
 class FileStamps
 {
 public:
-    /// Looks at the files as they are now.
+    /// Records the current state of the files.
     void watch(const QStringList& files);
 
-    /// Looks again. True once after a change, when nothing has changed since the look before: who
-    /// saves writes several files.
+    /// Checks the files. Returns true once after a change, as soon as two checks in a row see the
+    /// same state, because a save often writes several files.
     bool hasChanged();
 
 private:

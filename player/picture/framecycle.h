@@ -7,11 +7,11 @@ struct Frame;
 
 namespace Player {
 
-/// The frame that an animation shows so many ticks after its start; null for one without frames.
+/// The frame of an animation `tick` ticks after its start; null if it has no frames.
 const Rules::Frame* frameAt(const Rules::Animation& animation, int tick);
 
-/// True as long as an animation that ends, in a frame that stays or without `loop`, is in its first
-/// pass.
+/// True during the first pass of an animation that ends: one with a frame that stays, or without
+/// `loop`.
 bool isInFirstPass(const Rules::Animation& animation, int tick);
 
 }  // namespace Player

@@ -6,26 +6,27 @@
 
 namespace Player {
 
-/// Who plays where, by names as `Rules::findMainFile()` takes them; empty ones are chosen.
+/// Who plays and where. Names are those of `Rules::findMainFile()`; empty ones are chosen
+/// automatically.
 struct MatchRequest
 {
-    QString game;  ///< the folder, from which comes what has no path
+    QString game;  ///< the game folder, searched for names without a path
     QStringList characters;
     QString stage;
     bool hasIntro = true;
 
-    /// What the one character or stage that is named was copied from, by an editor with unsaved
-    /// work; empty for no copy. The other character is not that one again.
+    /// Set if the named character or stage is an editor's copy with unsaved work: the original main
+    /// file. Otherwise empty. The other fighter is then a different character.
     QString original{};
 };
 
-/// The same with what a copy was made of in its place.
+/// The same request with the original instead of the copy.
 MatchRequest withOriginal(const MatchRequest& request);
 
-/// What a file was copied from, for one that lies with the copy; any other file itself.
+/// The original of a file that belongs to the copy; any other file unchanged.
 QString originalOf(const MatchRequest& request, const QString& file);
 
-/// All that a match is made of.
+/// Everything that a match consists of.
 struct LoadedMatch
 {
     Q_DECLARE_TR_FUNCTIONS(Player::LoadedMatch)
@@ -34,11 +35,11 @@ public:
     Rules::Game game;
     FighterLook looks[2];
     StageLook stage;
-    QStringList notes;  ///< what was passed over, a line each for the person
-    QStringList files;  ///< all that was read, as absolute paths
+    QStringList notes;  ///< what was skipped, one line each for the user
+    QStringList files;  ///< absolute paths of all files that were read
 
-    /// A game without a stage is played on a bare one. Files outside of the game, such as the
-    /// copies that an editor makes, have their own folder around them. False, with `error`, if a
+    /// Loads the match. A game without a stage uses a bare one. For a file outside of the game,
+    /// such as a copy by an editor, the folder around it is the root. False, with `error`, if a
     /// main file cannot be read.
     bool load(const MatchRequest& request, QString* error);
 

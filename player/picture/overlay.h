@@ -11,12 +11,12 @@ namespace Player {
 
 class Brush;
 
-/// What is drawn besides the pictures, for those who make characters.
+/// Debug drawings on top of the picture, for character authors.
 enum class Overlay { Boxes = 1, Axes = 2, Push = 4 };
 Q_DECLARE_FLAGS(Overlays, Overlay)
 Q_DECLARE_OPERATORS_FOR_FLAGS(Overlays)
 
-/// Draws contact boxes, axes and push boxes of both fighters, as the rules see them.
+/// Draws contact boxes, axes and push boxes of both fighters as the rules use them.
 void drawOverlays(Brush* brush, const Rules::Game& game, const Rules::State& state,
                   Overlays overlays);
 

@@ -16,24 +16,24 @@ class SpriteCollection;
 
 namespace Player {
 
-/// What is done to the colours of sprites before they are shown.
+/// A colour transformation for sprites.
 struct Dye
 {
     Costume costume;
     Tint tint = NoTint;
     int opacity = 100;  ///< percent
-    QRgb flat = 0;      ///< all that is not transparent in this colour, if it is not 0
+    QRgb flat = 0;      ///< if not 0, draws everything opaque in this colour
 };
 
-/// A sprite as it is shown.
+/// A sprite as it is drawn.
 struct Picture
 {
-    QImage image;  ///< null for a sprite that is missing or broken
+    QImage image;  ///< null for a missing or broken sprite
     QPoint axis;
 };
 
-/// The sprites of a character or stage, unpacked when they are first seen and kept, up to 256 MiB.
-/// Missing and broken ones are told once each. Main thread only.
+/// A cache of the sprites of a character or stage, unpacked on first use, with a limit of 256 MiB.
+/// Missing and broken sprites are reported once each. Main thread only.
 class Pictures
 {
     Q_DECLARE_TR_FUNCTIONS(Player::Pictures)
@@ -42,20 +42,20 @@ public:
     Pictures();
     ~Pictures();
 
-    /// Opens a sprite file or folder; an empty path has no sprites. What is wrong is told in
+    /// Opens a sprite file or folder; with an empty path there are no sprites. Errors go to
     /// `notes()`, and the rest is shown.
     void open(const QString& path);
 
-    /// A way to show sprites, for `find()`; replaced as a whole by `clearDyes()`.
+    /// Adds a dye for `find()` and returns its index. Indexes are valid until `clearDyes()`.
     int addDye(const Dye& dye);
     void clearDyes();
 
-    /// Costumes change the palette of this sprite, in all sprites that have it.
+    /// Costumes replace the palette of this sprite, in all sprites that use it.
     void setDressed(int group, int number);
 
     Picture find(int group, int number, int dye);
 
-    /// The size of a sprite without unpacking it; empty for a missing one.
+    /// The size of a sprite, without unpacking it; empty if it is missing.
     QSize sizeOf(int group, int number) const;
 
     QStringList notes() const { return m_notes; }
@@ -64,7 +64,7 @@ private:
     struct Dyed
     {
         Dye dye;
-        QVector<QRgb> file;  ///< the colours of the costume's file
+        QVector<QRgb> file;  ///< colours of the costume's file
     };
 
     const Family::FamilySprite* sprite(int group, int number) const;

@@ -15,25 +15,25 @@ namespace Player {
 
 /// Draws a match: the stage with its layers, both fighters, sparks.
 ///
-/// Nothing but the state is drawn, but for sparks, which are seen for some ticks after the one that
-/// `see()` was told of. Main thread only.
+/// Draws only what is in the state, except sparks: they stay visible for some ticks after the tick
+/// passed to `see()`. Main thread only.
 class Scene
 {
 public:
-    /// The game outlives the scene, and stays as it is.
+    /// The game must outlive the scene and must not change.
     Scene(const Rules::Game& game, const FighterLook (&fighters)[2], const StageLook& stage);
     ~Scene();
 
-    /// Takes over what is seen once of a tick. Sparks of later ticks are gone: time was turned
-    /// back.
+    /// Records the one-time events of a tick. Forgets sparks of later ticks, because time was
+    /// turned back.
     void see(const Rules::State& state);
 
-    /// Has the size of the camera, and is opaque. Good until the next one is drawn.
+    /// An opaque picture of the camera's size, valid until the next call.
     const QImage& draw(const Rules::State& state, Overlays overlays = {});
 
     FighterScene& fighter(int index) { return *m_fighters[index]; }
 
-    /// What could not be shown so far, a line each for the person.
+    /// One line for the user for everything that could not be shown so far.
     QStringList notes() const;
 
 private:

@@ -7,7 +7,7 @@ namespace Player {
 
 class Brush;
 
-/// The layers of a stage. One without any is a bare floor.
+/// Draws the layers of a stage. A stage without layers is a bare floor.
 class StageScene
 {
 public:
@@ -17,7 +17,7 @@ public:
 
     const StageLook& look() const { return m_look; }
 
-    /// The layers on one side of the fighters, so many ticks after the start.
+    /// Draws the layers behind or in front of the fighters, `tick` ticks after the start.
     void draw(Brush* brush, Side side, int tick);
 
     QStringList notes() const { return m_pictures.notes(); }

@@ -4,13 +4,13 @@
 
 namespace Rules {
 
-/// What the parts of a tick work on, and what several of them do.
+/// The context of one tick, with the actions that several parts of it share.
 struct Bout
 {
     const Game& game;
     State& state;
-    bool stands[2] = {false, false};        ///< in a hit stop in this tick
-    bool isThreatened[2] = {false, false};  ///< by a move of the other one that can still hit
+    bool stands[2] = {false, false};        ///< in hit stop during this tick
+    bool isThreatened[2] = {false, false};  ///< by a move of the opponent that can still hit
 
     Bout(const Game& theGame, State& theState) : game(theGame), state(theState) {}
 
@@ -18,16 +18,16 @@ struct Bout
     const FighterState& fighter(int index) const { return state.fighters[index]; }
     const FighterData& data(int index) const { return game.fighters[index]; }
 
-    /// What is held now, with forward where the fighter looks.
+    /// The inputs held now, with forward where the fighter looks.
     quint8 signs(int index) const;
 
     void show(int index, int animation);
     void showRole(int index, Family::AnimationRole role);
 
-    /// Shows a role, after one that leads to it if the character has that.
+    /// Shows a role. If the character has the animation of `first`, that one is shown before.
     void showAfter(int index, Family::AnimationRole first, Family::AnimationRole then);
 
-    /// Another action, which shows nothing by itself.
+    /// Changes the action only, not the animation.
     void enter(int index, Action action);
     void stand(int index);
     void forgetCommands(int index);
@@ -35,28 +35,29 @@ struct Bout
     void tell(Event::Kind kind, int index, int move, qint32 x, qint32 y);
 };
 
-/// Notes the inputs and counts the commands that they complete.
+/// Records the inputs and counts the commands that they complete.
 void takeInputs(Bout& bout, const Inputs& inputs);
 
-/// Animations, stuns and waits of a fighter go on.
+/// Advances animations, stuns and waits of a fighter.
 void goOn(Bout& bout, int index);
 
-/// Notes who is near an attack, before anybody decides: both know the same of each other.
+/// Records who is near an attack, before anyone decides, so that both fighters decide on the same
+/// information.
 void seeThreats(Bout& bout);
 
-/// What a fighter does next.
+/// Decides what a fighter does next.
 void decide(Bout& bout, int index);
 
-/// Both move, and are kept apart and inside of the stage.
+/// Moves both fighters, and keeps them apart and inside of the stage.
 void moveFighters(Bout& bout);
 
-/// Turns those who look at the other one of their own accord.
+/// Turns fighters toward the opponent, if they turn automatically.
 void turnFighters(Bout& bout);
 
-/// Compares attack boxes with body boxes.
+/// Tests attack boxes against body boxes.
 void hitFighters(Bout& bout);
 
-/// Rounds and matches begin and end.
+/// Starts and ends rounds and matches.
 void goOnWithMatch(Bout& bout);
 
 /// The current frame; null without an animation.

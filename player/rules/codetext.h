@@ -8,7 +8,7 @@
 
 namespace Rules {
 
-/// A group of a code file with its values, and those of its sub-groups as "sub.key".
+/// A group of a code file with its values. Values of sub-groups have keys such as "sub.key".
 struct CodeGroup
 {
     QString name;
@@ -16,27 +16,27 @@ struct CodeGroup
     TextPlace place;
     QVector<QPair<QString, QVariant>> values;
 
-    /// The first value of a key; not valid without one.
+    /// The first value of a key; invalid if there is none.
     QVariant value(const char* key) const;
     bool hasSubGroup(const char* sub) const { return subGroups.contains(QLatin1String(sub)); }
 
     QStringList subGroups;
 };
 
-/// The text of a character or stage, all its files one after the other: groups and animations as
-/// plain values.
+/// The text of all files of a character or stage in order, parsed to groups and animations.
 class CodeText
 {
     Q_DECLARE_TR_FUNCTIONS(Rules::CodeText)
 
 public:
-    /// The kind of the main file is told: a copy for an engine has no suffix.
+    /// `kind` is the kind of the main file. It is needed because a copy for an engine has no
+    /// suffix.
     CodeText(const QString& gameFolder, const QString& mainFile, Family::FileKind kind);
 
     /// False, with `error`, if the main file cannot be read.
     bool read(QString* error);
 
-    /// Takes a text that is no file of its own, in place of `read()`: what it names is not read.
+    /// Parses a text instead of `read()`. Files that it names are not read.
     void take(const QString& text);
 
     const QVector<CodeGroup>& groups() const { return m_groups; }
@@ -44,13 +44,13 @@ public:
     QStringList notes() const { return m_notes; }
     QString mainFile() const { return m_mainFile; }
 
-    /// The files that were read, and those that should have been.
+    /// The files that were read or could not be read.
     QStringList files() const { return m_files; }
 
-    /// Where a path of the text leads; empty outside of the game.
+    /// The file for a path in the text; empty if it is outside of the game.
     QString pathOf(const QString& written) const;
 
-    /// The values of all groups of a name together, as one of them.
+    /// The values of all groups of this name in one group.
     CodeGroup joined(const char* name) const;
 
 private:
@@ -71,7 +71,7 @@ private:
     QStringList m_notes;
     QStringList m_files;
 
-    // While a file is read.
+    // State while a file is read.
     Family::LineHead m_head;
     QString m_subGroup;
     Frame m_boxes;

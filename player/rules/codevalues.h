@@ -10,7 +10,7 @@ namespace Rules {
 
 using Family::numbersOf;
 
-/// Takes numbers of a group if they are there.
+/// Reads numbers of a group, if they exist.
 class Values
 {
 public:
@@ -34,7 +34,7 @@ public:
         *number = value.isValid() ? fixedOf(value.toDouble()) : *number;
     }
 
-    /// True if the key is there.
+    /// True if the key exists.
     bool speeds(const char* key, Fixed* x, Fixed* y) const
     {
         const QVariantList list = numbersOf(m_group.value(key));
@@ -61,7 +61,7 @@ private:
     const CodeGroup& m_group;
 };
 
-/// The place of a word in a list, 0 for any other.
+/// The index of a word in a list, 0 for any other word.
 template <class Choice>
 Choice choiceOf(const QString& word, std::initializer_list<const char*> words)
 {

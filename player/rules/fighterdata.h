@@ -11,7 +11,7 @@
 
 namespace Rules {
 
-/// A contact box in pixels from the axis of a fighter who looks to the right, all sides inclusive.
+/// A contact box in pixels from the axis of a fighter that looks to the right, all sides inclusive.
 struct Box
 {
     qint32 left = 0;
@@ -20,7 +20,7 @@ struct Box
     qint32 bottom = 0;
 };
 
-/// Where something stands in the text of a game.
+/// A location in the text of a game.
 struct TextPlace
 {
     QString file;  ///< absolute
@@ -33,7 +33,7 @@ struct Frame
     int line = 0;
     QVector<Box> attack;
     QVector<Box> body;
-    int next = 0;             ///< the frame behind it while it loops; itself if it stays
+    int next = 0;             ///< the frame after it in a loop; itself if it stays
     bool isLastShown = true;  ///< a pass ends with it
 };
 
@@ -44,7 +44,7 @@ struct Animation
     QString identifier;
     TextPlace place;
     QVector<Frame> frames;
-    int first = 0;        ///< the first frame that is shown
+    int first = 0;        ///< the first visible frame
     int ticks = 0;        ///< of one pass, without a frame that stays
     int lastAttack = -1;  ///< the tick of a pass in which it attacks last; -1 without attacks
 };
@@ -55,7 +55,7 @@ struct Command
     QStringList texts;
     QVector<Family::Motion> motions;
     int steps = 0;       ///< of the longest motion
-    int buttons = 0;     ///< the most in a last step
+    int buttons = 0;     ///< maximum in a last step
     int directions = 0;  ///< likewise
 };
 
@@ -70,7 +70,7 @@ struct SoundId
     int number = 0;
 };
 
-/// What a hit of a move does.
+/// The effect of a hit by a move.
 struct Hit
 {
     int damage = 0;
@@ -95,7 +95,7 @@ struct Move
 
     QString name;
     TextPlace place;
-    int animation = -1;  ///< of `FighterData::animations`; -1 if it is missing
+    int animation = -1;  ///< index in `FighterData::animations`; -1 if it is missing
     int command = None;
     QString commandName;
     Air air = Air::No;
@@ -105,7 +105,7 @@ struct Move
     Fixed velocityX = 0;
     Fixed velocityY = 0;
     QVector<int> cancels;  ///< moves with a command
-    int follower = None;   ///< the move without one that comes by itself
+    int follower = None;   ///< the move without a command that follows automatically
     int costPower = 0;
     int costLife = 0;
     bool hasHit = false;
@@ -115,7 +115,7 @@ struct Move
     int volume = 100;
 };
 
-/// All that the rules know of a character. It does not change during a match.
+/// Everything that the rules know about a character. It does not change during a match.
 struct FighterData
 {
     static constexpr int MostCommands = 128;
@@ -129,7 +129,7 @@ struct FighterData
     double gravity = 0.5;
     bool turns = true;
     QVector<int> combo;     ///< percents
-    QVector<int> recovery;  ///< in 1/65536; empty for all of it
+    QVector<int> recovery;  ///< in 1/65536; empty for full recovery
     Fixed walkForward = 2 * One;
     Fixed walkBack = -2 * One;
     bool hasRun = false;
@@ -155,12 +155,12 @@ struct FighterData
     int animationOf(Family::AnimationRole role) const { return shown[int(role)]; }
 };
 
-/// All that the rules know of a stage.
+/// Everything that the rules know about a stage.
 struct StageData
 {
     QString name;
     QString mainFile;
-    qint32 left = -320;  ///< pixels, as all places
+    qint32 left = -320;  ///< in pixels, like all positions
     qint32 right = 320;
     qint32 floor = 0;
     double gravity = 1;
@@ -168,15 +168,15 @@ struct StageData
     bool facesInward = true;
     int screenWidth = 640;  ///< at the smallest zoom
     int rounds = 2;
-    int seconds = 99;  ///< 0 is without end
+    int seconds = 99;  ///< 0 for no limit
 };
 
-/// What a match is played with.
+/// The data of a match.
 struct Game
 {
     FighterData fighters[2];
     StageData stage;
-    Fixed gravity[2] = {One / 2, One / 2};  ///< of both, on this stage
+    Fixed gravity[2] = {One / 2, One / 2};  ///< of both fighters, on this stage
     bool hasIntro = true;
 };
 

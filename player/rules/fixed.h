@@ -6,24 +6,24 @@
 
 namespace Rules {
 
-/// A place or a speed in 1/256 pixel. Whole numbers alone are the same on every machine.
+/// A position or speed in 1/256 pixel. Integers give the same result on every machine.
 using Fixed = qint32;
 
 constexpr Fixed One = 256;
 
-/// A number of a file, rounded to the nearest one, half away from zero.
+/// Converts a number of a file, rounding half away from zero.
 inline Fixed fixedOf(double number)
 {
     return Fixed(std::lround(number * One));
 }
 
-/// The pixel that a place lies in.
+/// The pixel that contains a position.
 constexpr qint32 pixelOf(Fixed place)
 {
     return place >= 0 ? place / One : -((-place + One - 1) / One);
 }
 
-/// What is left of a speed that loses one of `parts` a tick. Below 1/16 pixel nothing is.
+/// A speed after friction: it loses 1/`parts` each tick. Below 1/16 pixel it becomes 0.
 constexpr Fixed slowed(Fixed speed, int parts)
 {
     const Fixed left = speed - speed / parts;

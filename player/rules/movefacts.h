@@ -4,42 +4,42 @@
 
 namespace Rules {
 
-/// What a move is worth in ticks, as it happens in a match of the character against itself.
+/// The frame data of a move in ticks, in a match of the character against itself.
 struct MoveFacts
 {
     static constexpr int MostTicks = 3600;  ///< longer moves are not followed to their end
 
-    /// Ticks in a row with attack boxes.
+    /// Consecutive ticks with attack boxes.
     struct Active
     {
         int tick = 0;  ///< from the start of the move
         int ticks = 0;
     };
 
-    /// What becomes of it when it meets the other one.
+    /// The result when the move meets the opponent.
     struct Meeting
     {
         bool isMet = false;  ///< at some distance, it hits or is guarded
-        int advantage = 0;   ///< ticks by which the attacker is free earlier
-        int damage = 0;      ///< of all its hits
+        int advantage = 0;   ///< ticks by which the attacker can act earlier
+        int damage = 0;      ///< of all its hits together
         int hits = 0;
-        bool falls = false;  ///< the other one comes to lie
+        bool falls = false;  ///< knocks the opponent down
     };
 
     int total = 0;
-    int start = 0;     ///< ticks before the first attack box; all of them without one
-    int recovery = 0;  ///< ticks behind the last one
+    int start = 0;     ///< ticks before the first attack box; all ticks if there is none
+    int recovery = 0;  ///< ticks after the last attack box
     QVector<Active> active;
-    bool isInAir = false;  ///< begins in the air: what it is worth depends on the height
+    bool isInAir = false;  ///< starts in the air, so its results depend on the height
     Meeting hit;
     Meeting guard;
 };
 
-/// Plays a move of a character: alone, hitting and guarded, from as near as both can stand. Moves
-/// in the air are played alone.
+/// Simulates a move: alone, hitting and guarded, from the smallest possible distance. Air moves are
+/// only simulated alone.
 MoveFacts factsOf(const FighterData& data, int move);
 
-/// The same without the meetings, which take the most time.
+/// The same without hit and guard, which take most of the time.
 MoveFacts aloneFactsOf(const FighterData& data, int move);
 
 }  // namespace Rules

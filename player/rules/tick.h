@@ -4,13 +4,13 @@
 
 namespace Rules {
 
-/// The state in front of the first tick: with the intros, or where the first round begins.
+/// The state before the first tick: at the intros, or at the start of the first round.
 State firstState(const Game& game);
 
-/// Goes on by a tick. Nothing else than game, state and inputs decides what comes out.
+/// Advances by one tick. The result depends only on game, state and inputs.
 void tick(const Game& game, const Inputs& inputs, State* state);
 
-/// The signs of a fighter as a motion has them, from those of the screen; and the other way round.
+/// Converts screen directions to those of a motion, or back.
 inline quint8 mirrored(quint8 signs, int facing)
 {
     if (facing > 0) {
@@ -21,11 +21,11 @@ inline quint8 mirrored(quint8 signs, int facing)
     return quint8((signs & ~(Inputs::Right | Inputs::Left)) | swapped);
 }
 
-/// True if a fighter could start a move on the floor, or would in the air.
+/// True if a fighter is free to start a move, on the floor or in the air.
 bool isFree(const FighterState& fighter);
 
-/// Starts a move in the tick that a state is of, whatever else goes on: for those who look at one
-/// move. It hits in that tick if it can.
+/// Starts a move in the tick of the state, regardless of anything else, to examine a single move.
+/// It hits in that tick if it can.
 void forceMove(const Game& game, int fighter, int move, State* state);
 
 }  // namespace Rules

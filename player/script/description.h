@@ -11,10 +11,10 @@ struct State;
 
 namespace Player {
 
-/// A word for what a fighter does, as in "guarded-hit".
+/// The name of an action, such as "guarded-hit".
 QString actionName(Rules::Action action);
 
-/// A state on one line: an object of JSON, or texts with tabs between. Without a line end.
+/// A state on one line: a JSON object, or columns separated by tabs. Without a line end.
 QByteArray jsonOf(const Rules::Game& game, const Rules::State& state);
 QByteArray textOf(const Rules::Game& game, const Rules::State& state);
 

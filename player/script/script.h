@@ -8,11 +8,11 @@
 
 namespace Player {
 
-/// What two people do, tick by tick, as a text.
+/// A text with the inputs of both players, tick by tick.
 ///
-/// A line is a number of ticks and what each holds during them, as in `20 F+L -`; directions are
-/// those of the fighter, forward where it looks. `places X X`, `life N N` and `power N N` set both
-/// fighters. `#` begins a comment.
+/// A line is a number of ticks and what each player holds during them, as in `20 F+L -`. Directions
+/// are relative to the fighter: forward is where it looks. `places X X`, `life N N` and `power N N`
+/// set both fighters. `#` starts a comment.
 class Script
 {
     Q_DECLARE_TR_FUNCTIONS(Player::Script)
@@ -20,10 +20,11 @@ class Script
 public:
     static constexpr int MostTicks = 1000000;
 
-    /// False, with `error` for the person, for a text that is none.
+    /// Parses a script. False, with `error` for the user, if it is invalid.
     bool read(const QString& text, QString* error);
 
-    /// Plays it from a state on; `see` gets every tick. Ends early when it gives false.
+    /// Plays the script starting from a state. `see` receives every tick; returning false ends it
+    /// early.
     void run(const Rules::Game& game, Rules::State* state,
              const std::function<bool(const Rules::State&)>& see) const;
 
