@@ -136,7 +136,7 @@ int playScript(const Request& request)
                                 NotDone);
 }
 
-/// That of the editor.
+/// The language of the editor.
 QString chosenLanguage()
 {
     const QSettings settings(Operations::settingsFormat(), QSettings::UserScope,
@@ -197,7 +197,7 @@ int run(const QStringList& arguments)
 
 int main(int argc, char** argv)
 {
-    // A reader that goes away is a failed write and not the end.
+    // A reader that closes the pipe must cause a failed write, not kill the program.
     signal(SIGPIPE, SIG_IGN);
     setlocale(LC_CTYPE, "");
     QCoreApplication::setApplicationName(QStringLiteral("zorv-player"));

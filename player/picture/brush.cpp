@@ -39,7 +39,7 @@ void Brush::draw(const FrameData& frame, const Picture& picture, QPointF place,
     const PlacedPicture placed(poseOf(frame, picture, showing), m_camera.zoom);
     const QRectF seen = QRectF(m_canvas->rect()).adjusted(-1, -1, 1, 1);
     if (!QRectF(placed.bounds()).translated(place).intersects(seen)) {
-        // So far away a place may be too large for a whole number.
+        // Places far away could exceed the range of an int.
         return;
     }
     PictureRaster(m_canvas, -place.toPoint()).draw(placed, picture.image, showing.mixture);

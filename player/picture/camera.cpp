@@ -10,10 +10,11 @@ using Rules::State;
 
 namespace {
 
-constexpr double SideRoom = 90;   // beside each fighter
-constexpr double ZoomSteps = 64;  // coarse enough for a picture that does not change all the time
+constexpr double SideRoom = 90;   // pixels to show beside each fighter
+constexpr double ZoomSteps = 64;  // coarse, so that the picture does not change its size all the
+                                  // time
 
-/// As `qBound()`, for limits that may be in any order.
+/// Like `qBound()`, but the limits may be in either order.
 double within(double low, double value, double high)
 {
     return low > high ? (low + high) / 2 : qBound(low, value, high);
@@ -61,7 +62,7 @@ Camera cameraOf(const StageLook& look, const Rules::Game& game, const State& sta
     camera.bottom = height / 2;
     camera.shake = shakeOf(game, state);
 
-    // From any distance the same of the stage can be seen.
+    // At every zoom the same part of the stage can be reached.
     const double more = (width / zoom - width) / 2;
     const double left = look.hasCamera ? look.camera.left() : game.stage.left + width / 2;
     const double right = look.hasCamera ? look.camera.right() : game.stage.right - width / 2;

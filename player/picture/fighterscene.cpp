@@ -47,7 +47,7 @@ FighterScene::FighterScene(const FighterData& data, const FighterLook& look, QRg
     m_pictures.open(look.sprites);
     const int stance = data.animationOf(Family::AnimationRole::Stance);
     if (stance >= 0) {
-        // Costumes are for the palette in which the fighter stands.
+        // Costumes replace the palette of the stance.
         const auto& animation = data.animations.at(stance);
         const Family::FrameData& first = animation.frames.at(animation.first).data;
         m_pictures.setDressed(first.group, first.number);
@@ -84,7 +84,7 @@ void FighterScene::draw(Brush* brush, const FighterState& state, int floor)
                 placeOf(brush->camera(), state, floor, false), showing);
 }
 
-/// The picture laid flat, at the floor below the fighter.
+/// Draws the picture squashed flat, on the floor below the fighter.
 void FighterScene::drawShadow(Brush* brush, const FighterState& state, int floor)
 {
     const Frame* frame = shownFrame(m_data, state);
@@ -117,7 +117,7 @@ bool FighterScene::drawSpark(Brush* brush, Spark spark, int age, QPoint place, i
     return true;
 }
 
-/// A character without pictures of sparks has dots that fly apart, in its colours.
+/// A character without spark sprites shows dots that fly apart, in its colours.
 void FighterScene::drawBareSpark(Brush* brush, Spark spark, int age, QPoint place)
 {
     static constexpr int ways[][2] = {{4, 0},  {3, 3},   {0, 4},  {-3, 3},

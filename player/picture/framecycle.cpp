@@ -9,8 +9,8 @@ using Rules::Frame;
 
 namespace {
 
-/// The frame so many ticks behind the beginning of one, in the same pass; at its end the last one,
-/// with the ticks that are left over.
+/// The frame `ticks` ticks after the start of `frame`, in the same pass. Beyond the end of the pass
+/// it is the last frame, and `ticks` keeps the rest.
 int frameBehind(const Animation& animation, int frame, int* ticks)
 {
     for (;;) {
@@ -25,7 +25,7 @@ int frameBehind(const Animation& animation, int frame, int* ticks)
     }
 }
 
-/// The ticks from a frame to the end of a pass.
+/// The ticks from the start of a frame to the end of the pass.
 int ticksFrom(const Animation& animation, int frame)
 {
     int ticks = 0;

@@ -16,15 +16,15 @@ using Rules::GameReader;
 
 namespace {
 
-/// Where the files have to lie that a main file names.
+/// The folder that must contain all files that a main file names.
 QString rootOf(const QString& game, const QString& mainFile)
 {
     return Family::staysInside(game, mainFile) ? game
                                                : Family::FamilyParentProject::folderOf(mainFile);
 }
 
-/// Who plays at a side. Beside a copy it is another character of the game than the one that was
-/// copied, if there is one.
+/// Who plays on a side. The opponent of a copy is a character of the game other than the original,
+/// if there is one.
 QString nameOf(const MatchRequest& request, int index)
 {
     if (index < request.characters.size() || request.original.isEmpty()) {
@@ -63,7 +63,7 @@ QString originalOf(const MatchRequest& request, const QString& file)
     if (QFileInfo(file) == copy) {
         return request.original;
     }
-    // A copy has the folders of the game around it.
+    // A copy has the folder structure of the game around it.
     const QString relative = copy.absoluteDir().relativeFilePath(file);
     return QDir::cleanPath(QFileInfo(request.original).absoluteDir().absoluteFilePath(relative));
 }

@@ -28,7 +28,7 @@ QString fileOf(const CodeText& text, const char* key)
     return path;
 }
 
-/// Numbers that are there in full, else none.
+/// A list of numbers, or nothing unless all of them are there.
 QVector<double> reals(const CodeGroup& group, const char* key, int count)
 {
     QVector<double> result;

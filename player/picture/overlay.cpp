@@ -18,7 +18,7 @@ constexpr QRgb Axis = 0xffffffff;
 constexpr uint Inside = 0x50;
 constexpr int AxisLength = 6;
 
-/// Boxes of one fighter: whole pixels from its axis, mirrored if it looks to the left.
+/// Draws the boxes of a fighter: whole pixels from its axis, mirrored if it looks to the left.
 class BoxPainter
 {
 public:
@@ -74,7 +74,7 @@ void drawOverlays(Brush* brush, const Rules::Game& game, const Rules::State& sta
             for (const Box& box : frame->body) {
                 painter.draw(box, Body);
             }
-            // Those of other actions hit nobody.
+            // Attack boxes only hit during a move.
             const bool attacks = fighter.action == Rules::Action::Move;
             for (const Box& box : attacks ? frame->attack : QVector<Box>()) {
                 painter.draw(box, Attack);

@@ -41,7 +41,7 @@ QRgb dyed(QRgb color, const Dye& dye)
                  times(qBlue(color), dye.tint[2] * light), alpha);
 }
 
-/// The first colour of a palette is what is clear, whatever a costume calls it.
+/// Colour 0 is transparent, whatever a costume defines.
 void dress(QVector<QRgb>* colors, const QVector<QRgb>& file, const QVector<QRgb>& shades)
 {
     const auto put = [colors](const QVector<QRgb>& from) {

@@ -75,7 +75,7 @@ const QImage& Scene::draw(const State& state, Overlays overlays)
     for (int i = 0; i < 2; ++i) {
         m_fighters[i]->drawShadow(&brush, state.fighters[i], floor);
     }
-    // Who attacks is seen whole.
+    // The attacker is drawn in front.
     const int above = state.fighters[0].action == Rules::Action::Move ? 0 : 1;
     m_fighters[1 - above]->draw(&brush, state.fighters[1 - above], floor);
     m_fighters[above]->draw(&brush, state.fighters[above], floor);

@@ -17,18 +17,18 @@ constexpr QRgb Floor = 0xff3a424a;
 
 constexpr Mixture mixtures[] = {Mixture::Over, Mixture::Add, Mixture::Subtract, Mixture::Multiply};
 
-/// A layer is drawn so many times over at most. A gap that is nearly as long as the pictures, but
-/// negative, would take minutes for each of its pixels.
+/// The maximum number of times that repetitions of a layer may cover the screen. A negative gap
+/// nearly as large as the picture would take minutes to draw.
 constexpr qint64 MostCovers = 64;
 
-/// A number of pictures, in the range of an `int` whatever the file says.
+/// Clamps a number of pictures to the range of `int`, whatever the file says.
 int counted(double pictures)
 {
     return int(qBound(-1e9, pictures, 1e9));
 }
 
-/// Which of the pictures in a row can be seen: those that reach from `low` to `high` beside the
-/// place of the first, so far apart, on a canvas of that length.
+/// The visible range of a row of repeated pictures: `step` is their distance, `place` the position
+/// of the first, `low` and `high` its extent beside that, `length` the size of the canvas.
 struct Row
 {
     Row(bool isRepeated, int count, double step, double place, int low, int high, int length)
@@ -104,7 +104,8 @@ void StageScene::drawLayer(Brush* brush, const LayerLook& layer, int dye, int ti
     const QPointF place =
         camera.at(layer.offset.x() + layer.velocityX * tick,
                   layer.offset.y() + layer.velocityY * tick, layer.followX, layer.followY);
-    // A row stays where it is while its pictures move: it is laid by the first of them.
+    // The animation of a layer may change its size. The first frame decides the spacing, so that
+    // the row does not move.
     const FrameData first = frameOf(layer, 0);
     const QSize size = m_pictures.sizeOf(first.group, first.number);
     const double across = (double(size.width()) + layer.gap.x()) * zoom;

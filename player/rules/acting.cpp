@@ -10,13 +10,13 @@ namespace {
 constexpr int LyingTicks = 24;
 constexpr int DizzyTicks = 40;
 
-/// Ticks for which a move gives way to one with more buttons.
+/// For this many ticks a move can still be replaced by one with more buttons.
 constexpr int YieldTicks = 3;
 
-/// How near an opponent is guarded against before it hits.
+/// An attack at this distance makes an opponent guard before it hits.
 constexpr Fixed GuardDistance = 120 * One;
 
-/// True at the end of a pass, and for a frame that stays.
+/// True at the end of a pass, or if a frame that stays is reached.
 bool goOnWithAnimation(Bout& bout, int index)
 {
     FighterState& own = bout.fighter(index);
@@ -29,7 +29,7 @@ bool goOnWithAnimation(Bout& bout, int index)
     }
     own.frame = frame->next;
     own.frameTick = 0;
-    // A frame that stays is reached in the tick in which the pass is over.
+    // A frame that stays is reached in the tick in which the pass ends.
     return frame->isLastShown || frameOf(bout, index)->data.delay <= 0;
 }
 
@@ -76,7 +76,7 @@ void goOnWithStun(Bout& bout, int index)
     }
 }
 
-/// Whether one of the actions that take their time is over, with its animation or its ticks.
+/// Ends an action with a fixed duration when its animation or its ticks are over.
 void goOnWithAction(Bout& bout, int index, bool isShown)
 {
     FighterState& own = bout.fighter(index);
@@ -136,16 +136,16 @@ bool isOnFloorAndFree(const FighterState& own)
     return isFree(own) && !own.isInAir;
 }
 
-/// Whether a move goes with where the fighter is.
+/// Whether a move is allowed where the fighter is: on the floor or in the air.
 bool fitsPlace(const FighterState& own, const Move& move)
 {
     return own.isInAir ? move.air != Air::No : move.air != Air::Only;
 }
 
-/// Whether a move can start from what the fighter does.
+/// Whether a move can start from the current action.
 bool fits(const FighterData& data, const FighterState& own, const Move& move)
 {
-    // A motion with a way up has begun the jump by it.
+    // An up direction in the motion has already started the jump.
     if (own.action == Action::JumpStart) {
         return move.from == From::Any && move.air != Air::Only && move.command >= 0 &&
                data.commands.at(move.command).steps > 1;
@@ -169,13 +169,13 @@ bool fits(const FighterData& data, const FighterState& own, const Move& move)
     return false;
 }
 
-/// Whether the fighter could pay for a move and has given its command.
+/// Whether the command was given and the fighter has enough power.
 bool isAsked(const FighterState& own, const Move& move)
 {
     return move.command >= 0 && own.commands[move.command] > 0 && own.power >= move.costPower;
 }
 
-/// True if `one` comes in place of `other` when both could.
+/// True if `one` takes precedence over `other` when both are possible.
 bool isBefore(const FighterData& data, const Move& one, const Move& other)
 {
     const Command& first = data.commands.at(one.command);
@@ -223,7 +223,8 @@ int cancelOf(const Bout& bout, int index)
     return best;
 }
 
-/// Two fingers are not quite equal: what the first one has started gives way.
+/// A person never presses two buttons in exactly the same tick. So a move that the first button
+/// started may be replaced.
 int completedOf(const Bout& bout, int index)
 {
     const FighterState& own = bout.fighter(index);
@@ -300,7 +301,7 @@ void startHop(Bout& bout, int index)
     bout.showRole(index, AnimationRole::HopBack);
 }
 
-/// Run or hop, if the person has given the command.
+/// Starts a run or hop, if its command was given.
 bool dash(Bout& bout, int index, quint8 signs)
 {
     FighterState& own = bout.fighter(index);

@@ -26,7 +26,7 @@ Box boxOf(const QRect& rect)
             qMax(rect.left(), rect.right()), qMax(rect.top(), rect.bottom())};
 }
 
-/// What is shown after what, once all frames are known.
+/// Computes the frame order, once all frames are known.
 void finish(Animation* animation)
 {
     QVector<Frame>& frames = animation->frames;
@@ -146,7 +146,7 @@ void CodeText::readText(const QString& text, const QString& path, FileKind kind)
     }
 }
 
-/// What is passed over.
+/// Records the errors of skipped lines.
 void CodeText::noteErrors(const Family::LineDetails& details, const TextPlace& place)
 {
     for (const Family::LineProblem& problem : details.problems) {
@@ -159,7 +159,7 @@ void CodeText::noteErrors(const Family::LineDetails& details, const TextPlace& p
     }
 }
 
-/// Each kind of file after the other, as the check and the editor read them.
+/// Reads one kind of file after the other, in the same order as the check and the editor.
 void CodeText::readNamed()
 {
     QSet<QString> taken{m_mainFile};
@@ -240,7 +240,7 @@ void CodeText::see(const ParsedLine& line, const TextPlace& place)
     }
 }
 
-/// A free key is called as the line says, any other one by its name of today.
+/// A free key keeps its written name. Any other key gets its current name.
 void CodeText::seeValue(const ParsedLine& line, const QString& written)
 {
     if (m_isInGroup && line.value.isValid()) {

@@ -15,10 +15,11 @@ using Family::AnimationRole;
 
 namespace {
 
-/// Where things of a name are; the first one counts. A text may have a hundred thousand of them.
+/// The index of the first thing with each name. A map, because a text may contain a hundred
+/// thousand things.
 using Places = QHash<QString, int>;
 
-/// False for a name that is there already. What has none is nothing's double.
+/// False if the name exists already. Things without a name are never duplicates.
 bool isNew(const QString& name, int place, Places* places)
 {
     const bool isKnown = places->contains(name);
@@ -28,7 +29,7 @@ bool isNew(const QString& name, int place, Places* places)
     return !isKnown;
 }
 
-/// Finds things by their names: the first one of a name counts.
+/// Finds a thing by name: the first one counts.
 template <class Things, class Name>
 int placeOf(const Things& things, const QString& name, Name nameOf)
 {
@@ -45,8 +46,8 @@ int animationCalled(const FighterData& data, const QString& name)
     return placeOf(data.animations, name, [](const Animation& each) { return each.identifier; });
 }
 
-/// A place that has no range of its own. Farther away than any box nothing is, so that sums of
-/// places stay far from the ends of numbers.
+/// Clamps a coordinate that has no limit of its own to the range of boxes, so that sums cannot
+/// overflow.
 int placeFrom(int written)
 {
     constexpr int most = 32767;
@@ -105,7 +106,7 @@ int bitCount(unsigned bits)
     return int(qPopulationCount(bits));
 }
 
-/// A character keeps the motions that mean something; `check` tells the others.
+/// Reads the valid motions. `check` reports the others.
 void readCommands(const CodeGroup& group, FighterData* data, int* left)
 {
     for (const auto& entry : group.values) {
@@ -214,7 +215,7 @@ void readMoves(const CodeText& text, const Places& animations, FighterData* data
     }
 }
 
-/// What each role shows; -1 where nothing is to be shown.
+/// Chooses the animation of each role; -1 to show nothing.
 void chooseAnimations(const CodeGroup& constants, FighterData* data)
 {
     for (int role = 0; role < Family::AnimationRoleCount; ++role) {
@@ -237,7 +238,7 @@ void chooseAnimations(const CodeGroup& constants, FighterData* data)
     if (stance >= 0 || data->animations.isEmpty()) {
         return;
     }
-    // Without a stance whatever ends in it shows the first animation.
+    // Without a stance, everything that falls back to it shows the first animation.
     for (int role = 0; role < Family::AnimationRoleCount; ++role) {
         int last = role;
         while (Family::neededAnimation(AnimationRole(last)).substitute >= 0) {
@@ -382,7 +383,7 @@ QString findMainFile(const QString& gameFolder, const QString& suffix, const QSt
             return file;
         }
     }
-    // A copy that the editor has made for an engine has no suffix.
+    // A copy that the editor made for an engine has no suffix.
     if (QFileInfo(name).isFile()) {
         return QFileInfo(name).absoluteFilePath();
     }

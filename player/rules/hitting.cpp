@@ -62,7 +62,7 @@ bool meet(const Bout& bout, int attacker)
                  : meetsAny(bout.data(1 - attacker).push);
 }
 
-/// The move by which a fighter hits in this tick; null if it does not.
+/// The move with which a fighter hits in this tick; null if it does not.
 const Move* hitOf(const Bout& bout, int attacker)
 {
     const FighterState& own = bout.fighter(attacker);
@@ -99,12 +99,12 @@ bool guards(const Bout& bout, int index, HitLevel level)
     return own.isInAir || level == HitLevel::Middle || (level == HitLevel::Low) == isLow;
 }
 
-/// A hit that is to come, as both stood when it met.
+/// A hit about to be applied, with the situation in which it connected.
 struct Meeting
 {
     const Move* move = nullptr;
-    int index = Move::None;  ///< of the move
-    int frame = 0;           ///< that hits
+    int index = Move::None;  ///< index of the move
+    int frame = 0;           ///< the frame that hits
     bool isGuarded = false;
     bool isFromFloor = false;
 };
@@ -130,14 +130,14 @@ void gain(const Bout& bout, int index, int power, FighterState* own)
     own->power = qMin(own->power + power, bout.data(index).power);
 }
 
-/// The other one gets the speed, or the attacker if there is no way to go.
+/// Pushes the opponent, or the attacker if the opponent is at the end of the stage.
 void push(Bout& bout, int attacker, const Meeting& meeting)
 {
     FighterState& own = bout.fighter(attacker);
     FighterState& their = bout.fighter(1 - attacker);
     const FighterData& data = bout.data(1 - attacker);
     const StageData& stage = bout.game.stage;
-    // Who was jumped over is pushed the other way.
+    // An opponent that was jumped over is pushed the other way.
     const int away = their.x != own.x ? (their.x > own.x ? 1 : -1) : own.facing;
     const Fixed speed = away * meeting.move->hit.pushX;
     const bool looksRight = their.facing > 0;

@@ -12,7 +12,7 @@ constexpr int Farthest = 400;
 constexpr int DistanceStep = 4;
 constexpr int EnoughLife = 1000000000;
 
-/// The character against itself on a stage without ends.
+/// The character against itself, on a stage without ends.
 Game mirrorGame(const FighterData& data)
 {
     Game game;
@@ -84,7 +84,7 @@ bool hasEvent(const State& state, Event::Kind kind)
     return false;
 }
 
-/// The other one guards in the very ticks in which it would be hit.
+/// The opponent guards exactly in the ticks in which it would be hit.
 void tickGuarded(const Game& game, HitLevel level, State* state)
 {
     State look = *state;

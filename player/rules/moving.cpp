@@ -10,7 +10,7 @@ constexpr int FloorParts = 8;
 constexpr int MoveParts = 16;
 constexpr Fixed MostSpeed = 64 * One;
 
-/// Where nobody comes by what the files say; it keeps sums far from the ends of numbers.
+/// No regular data leads this high. The limit prevents integer overflow.
 constexpr Fixed MostHeight = 8192 * One;
 
 bool keepsSpeed(Action action)
@@ -63,7 +63,7 @@ void moveOne(Bout& bout, int index)
     }
 }
 
-/// A box where a fighter stands.
+/// A box at the position of a fighter.
 Box placed(const Box& box, const FighterState& own)
 {
     const qint32 x = pixelOf(own.x);
@@ -120,14 +120,14 @@ void pushApart(Bout& bout)
     second.x = before[1];
     keepInStage(bout, 0, &first);
     keepInStage(bout, 1, &second);
-    // What the end of the stage takes from one is given to the other.
+    // If the end of the stage stops one fighter, the other is pushed back by the rest.
     const Fixed firstLost = first.x - before[0];
     const Fixed secondLost = second.x - before[1];
     first.x += secondLost;
     second.x += firstLost;
 }
 
-/// The screen shows both.
+/// Keeps both fighters on the screen.
 void keepOnScreen(Bout& bout)
 {
     FighterState& first = bout.fighter(0);

@@ -14,7 +14,7 @@ constexpr int VictoryTicks = 120;
 constexpr int MostIntroTicks = 300;
 constexpr quint8 Buttons = Family::MotionStep::Buttons;
 
-/// Fighters at their places, with nothing of the round before but life, power and wins.
+/// Puts the fighters at their places. From the round before they keep only life, power and wins.
 void placeFighters(Bout& bout)
 {
     const StageData& stage = bout.game.stage;
@@ -51,7 +51,7 @@ void pose(Bout& bout, int index, AnimationRole role)
     bout.showRole(index, role);
 }
 
-/// Ticks of a pose; one that goes on for ever is over at once.
+/// The length of a pose in ticks; 0 if it goes on forever.
 int ticksOf(const Bout& bout, int index, AnimationRole role)
 {
     const int animation = bout.data(index).animationOf(role);
@@ -70,13 +70,13 @@ void goOnWithIntro(Bout& bout)
         enterPhase(bout, Phase::Fight);
         for (int i = 0; i < 2; ++i) {
             bout.stand(i);
-            // The button that ends the intro is no move yet.
+            // The button that skips the intro must not start a move.
             bout.forgetCommands(i);
         }
     }
 }
 
-/// -1 for a draw.
+/// The winner when time is over: who has more of its life left, in proportion. -1 for a draw.
 int winnerByTime(const Bout& bout)
 {
     const qint64 first = qint64(bout.fighter(0).life) * bout.data(1).life;
@@ -129,7 +129,7 @@ void celebrate(Bout& bout)
     }
 }
 
-/// What a fighter has at the start of the next round.
+/// The life of a fighter at the start of the next round.
 int nextLife(const Bout& bout, int index)
 {
     const FighterData& data = bout.data(index);

@@ -17,7 +17,7 @@ public:
         m_hash ^= m_hash >> 29;
     }
 
-    /// Numbers of 32 bits, as numbers: the order of their bytes does not count.
+    /// Adds 32-bit values as numbers, so that the byte order of the machine does not matter.
     void addWords(const void* data, size_t bytes)
     {
         for (size_t at = 0; at < bytes; at += sizeof(quint32)) {

@@ -60,7 +60,7 @@ bool Script::readLine(const QString& text, Line* line) const
            Family::readSigns(parts.value(2, QStringLiteral("-")), &line->signs[1]);
 }
 
-/// Out of range is as much as there can be.
+/// Values out of range are clamped.
 void Script::set(const Rules::Game& game, const Line& line, State* state) const
 {
     for (int i = 0; i < 2; ++i) {

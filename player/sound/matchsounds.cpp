@@ -16,7 +16,7 @@ using Rules::SoundId;
 
 namespace {
 
-// Owners of sounds besides the fighters 0 and 1.
+// Owners 0 and 1 are the fighters.
 constexpr int StageOwner = 2;
 constexpr quint64 MusicKey = quint64(StageOwner) << 32;
 
@@ -49,7 +49,7 @@ MatchSounds::~MatchSounds()
     }
 }
 
-/// The sounds that moves name.
+/// Collects the sounds that moves name.
 void MatchSounds::collect(int fighter)
 {
     QVector<quint32> ids;
@@ -90,7 +90,7 @@ void MatchSounds::beginMusic()
         return;
     }
     m_isMusicOn = true;
-    // The loop is told in frames of the file, which may have another rate.
+    // The loop is given in frames of the file, which may have another sample rate.
     const auto place = [&](int frame) {
         const int rate = m_bank.rateOf(MusicKey);
         return frame < 0 || rate <= 0 ? -1

@@ -18,26 +18,26 @@ namespace Player {
 
 struct LoadedMatch;
 
-/// What is heard of a match: the sounds of moves that meet, and the music of the stage. Without a
-/// sound device it is silent. Main thread only.
+/// Plays the sounds of a match: the sounds of moves that connect, and the music of the stage.
+/// Silent without a sound device. Main thread only.
 class MatchSounds
 {
 public:
     static constexpr int UsualRate = 48000;
 
-    /// The match outlives it.
+    /// The match must outlive this object.
     explicit MatchSounds(const LoadedMatch& match);
     ~MatchSounds();
 
-    /// Plays what a tick is heard of.
+    /// Plays the sounds of a tick.
     void see(const Rules::State& state);
 
-    /// Nothing is heard until it goes on.
+    /// While paused, nothing is heard.
     void setPaused(bool isPaused);
 
     QStringList notes() const;
 
-    /// Returns when all sounds can be heard.
+    /// Returns when all sounds are ready to play.
     void waitForFinished() { m_bank.waitForFinished(); }
 
 private:
@@ -47,7 +47,7 @@ private:
     const LoadedMatch& m_match;
     SoundBank m_bank;
     Mixer m_mixer;
-    std::unique_ptr<Zorv::SoundOutput> m_output;  // null for silence
+    std::unique_ptr<Zorv::SoundOutput> m_output;  // null without a sound device
     int m_rate = UsualRate;
     bool m_isMusicOn = false;
     QString m_problem;

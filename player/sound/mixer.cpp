@@ -9,7 +9,7 @@ namespace Player {
 namespace {
 
 constexpr int FrameBytes = Mixer::Channels * int(sizeof(qint16));
-constexpr qint64 MostBytes = 64 * 1024;  // at once: a device asks again
+constexpr qint64 MostBytes = 64 * 1024;  // per read: the device asks again
 
 int framesOf(const QByteArray& samples)
 {
@@ -55,7 +55,7 @@ qint64 Mixer::bytesAvailable() const
     return MostBytes + QIODevice::bytesAvailable();
 }
 
-/// Adds a voice to the sums; false if it is over.
+/// Adds a voice to the sums; false when it has ended.
 bool Mixer::mix(Voice* voice, QVector<qint32>* sums)
 {
     const char* const samples = voice->samples.constData();

@@ -6,10 +6,10 @@
 
 namespace Player {
 
-/// Sounds at once, as one stream without end for a sound device: two channels of 16 bits.
+/// Mixes several sounds into an endless stream for a sound device: two channels of 16 bits.
 ///
-/// What is too loud together is cut off; the oldest sound gives way to one too many. Silence where
-/// there is nothing. Main thread only.
+/// A sum that is too loud is clipped. If there are too many sounds, the oldest one is dropped.
+/// Without sounds the stream is silent. Main thread only.
 class Mixer : public QIODevice
 {
     Q_OBJECT
@@ -18,7 +18,7 @@ public:
     static constexpr int Channels = 2;
     static constexpr int MostVoices = 32;
 
-    /// A sound that is played again and again between two frames; the last one belongs to it.
+    /// A part of a sound that repeats, from `first` to `last` inclusive, in frames.
     struct Loop
     {
         int first = 0;
@@ -27,11 +27,11 @@ public:
 
     explicit Mixer(QObject* parent = nullptr);
 
-    /// Plays samples once, in so many percent of their loudness.
+    /// Plays samples once, at `volume` percent.
     void play(const QByteArray& samples, int volume);
 
-    /// Plays samples without end, from silence to their loudness in so many frames; in place of the
-    /// last ones. Empty ones end it.
+    /// Plays samples in an endless loop, fading in over `fadeFrames` frames. Replaces the current
+    /// music. Empty samples stop it.
     void playMusic(const QByteArray& samples, int volume, const Loop& loop, int fadeFrames);
 
     bool isSequential() const override { return true; }
@@ -47,11 +47,11 @@ private:
         QByteArray samples;
         int volume = 100;
         int at = 0;     // the next frame
-        int first = 0;  // where it begins again, if `end` is not that of the samples
-        int end = 0;    // behind the last frame
+        int first = 0;  // start of the loop, if `end` is before the end of the samples
+        int end = 0;    // after the last frame
         bool isLooped = false;
-        int fade = 0;    // frames until it has its loudness
-        int played = 0;  // up to `fade`
+        int fade = 0;    // length of the fade-in in frames
+        int played = 0;  // frames played, up to `fade`
     };
 
     static bool mix(Voice* voice, QVector<qint32>* sums);

@@ -13,10 +13,10 @@
 
 namespace Player {
 
-/// Sounds of a match in the one form that they are mixed in.
+/// The sounds of a match, converted to the format of the mixer.
 ///
-/// They are converted in another thread, a sound after the other; until then they are silent, as
-/// are those that are missing. Main thread only.
+/// A worker thread converts them one after the other. A sound is silent until it is converted, or
+/// if it is missing. Main thread only.
 class SoundBank
 {
     Q_DECLARE_TR_FUNCTIONS(Player::SoundBank)
@@ -24,31 +24,31 @@ class SoundBank
 public:
     SoundBank();
 
-    /// Ends the conversion.
+    /// Cancels the conversion.
     ~SoundBank();
 
-    /// Takes some sounds of a sound file, by "GROUP,NUMBER" as numbers; see `keyOf()`. What is
-    /// missing is told in `notes()`.
+    /// Adds sounds of a sound file; `ids` are "GROUP,NUMBER" as numbers. Use `keyOf()` to find
+    /// them. Missing sounds are reported in `notes()`.
     void addFile(int owner, const QString& path, const QVector<quint32>& ids);
 
-    /// Takes a WAV file as the sound of a key.
+    /// Adds a WAV file as the sound of a key.
     void addWave(quint64 key, const QString& path);
 
-    /// Converts all that was added, to so many frames a second.
+    /// Converts everything that was added, to `sampleRate` frames a second.
     void convert(int sampleRate);
 
-    /// The samples of a sound; empty if it is not there, or not yet.
+    /// The samples of a sound; empty if it does not exist or is not converted yet.
     QByteArray find(quint64 key) const;
 
-    /// The frames a second that a sound has in its file; 0 if it is not there.
+    /// The sample rate of a sound in its file; 0 if it does not exist.
     int rateOf(quint64 key) const;
 
-    /// What a sound of an owner is called by.
+    /// The key of a sound of an owner.
     static quint64 keyOf(int owner, int group, int number);
 
     QStringList notes() const { return m_notes; }
 
-    /// Returns when all has been converted.
+    /// Returns when everything is converted.
     void waitForFinished() { m_future.waitForFinished(); }
 
 private:

@@ -9,11 +9,11 @@ using Rules::State;
 
 namespace {
 
-constexpr int RandomTicks = 8;  // for which the same is held
+constexpr int RandomTicks = 8;  // random input changes after this many ticks
 constexpr quint8 Forward = Inputs::Right;
 constexpr quint8 Back = Inputs::Left;
 
-/// The same for the same number: a match that is turned back goes on as it did.
+/// A hash instead of a random generator: a rewound match must repeat itself.
 quint32 scattered(quint32 number)
 {
     number = (number ^ (number >> 16)) * 0x45d9f3bU;
@@ -44,7 +44,7 @@ void Dummy::takeOver(const Dummy& other)
     m_start = other.m_start;
 }
 
-/// Crouched against what is low.
+/// Crouches against low attacks.
 quint8 Dummy::guardSigns(const State& state) const
 {
     const Rules::FighterState& other = state.fighters[1 - m_fighter];
@@ -73,7 +73,7 @@ quint8 Dummy::signs(const State& state, quint8 person)
         return mirrored(quint8(number & (number >> 8) & 0x7f) | (number & 0x10000 ? Forward : 0));
     }
     case Record:
-        // Turned back, it is recorded anew from there.
+        // After rewinding, recording continues from that point.
         m_record.resize(qBound(0, at, qMin(m_record.size(), MostTicks)));
         if (m_record.size() == at && at < MostTicks) {
             m_record.append(mirrored(person));

@@ -9,35 +9,35 @@ struct State;
 
 namespace Player {
 
-/// What a fighter does while nobody plays it.
+/// Controls a fighter that no person plays.
 ///
-/// What was recorded is kept as a motion has it, so that it is replayed to either side. A replay
-/// knows the tick in which it began, and so follows a match that is turned back.
+/// A recording stores directions relative to the fighter, so it can be replayed to either side. A
+/// replay knows the tick in which it began, so it still fits after the match is turned back.
 class Dummy
 {
 public:
     enum Mode { Person, Stand, Crouch, Guard, Jump, Random, Record, Replay };
     static constexpr int ModeCount = Replay + 1;
 
-    /// The most that is recorded, in ticks.
+    /// The maximum length of a recording, in ticks.
     static constexpr int MostTicks = 3600;
 
-    /// The game outlives it.
+    /// The game must outlive this object.
     Dummy(const Rules::Game& game, int fighter) : m_game(game), m_fighter(fighter) {}
 
     Mode mode() const { return m_mode; }
 
-    /// Recording begins anew, and a replay from the start.
+    /// Sets the mode. A recording starts from scratch, a replay at its beginning.
     void setMode(Mode mode, const Rules::State& state);
 
-    /// A match begins whose ticks are counted anew: a replay and a recording start with it.
+    /// Call it when a new match restarts the tick count: a replay or recording starts over with it.
     void startAnew(const Rules::State& state);
 
-    /// What it holds in the tick behind a state, as signs of the screen. `person` is what the
-    /// person holds, who plays it for `Person` and `Record`.
+    /// The inputs for the tick after `state`, as screen directions and buttons. `person` is the
+    /// person's own input, used by `Person` and `Record`.
     quint8 signs(const Rules::State& state, quint8 person);
 
-    /// Does what another one did, in another game.
+    /// Copies mode and recording from a dummy of another game.
     void takeOver(const Dummy& other);
 
     int recordedTicks() const { return m_record.size(); }
@@ -49,7 +49,7 @@ private:
     int m_fighter;
     Mode m_mode = Person;
     QVector<quint8> m_record;  // with forward where the fighter looks
-    int m_start = 0;           // the tick before the first one of the record
+    int m_start = 0;           // the tick before the first one of the recording
 };
 
 }  // namespace Player

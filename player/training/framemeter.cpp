@@ -15,7 +15,7 @@ using Rules::State;
 
 namespace {
 
-constexpr int IdleTicks = 12;  // at the end of the meter, then it stands still
+constexpr int IdleTicks = 12;  // after this many idle ticks the meter pauses
 
 bool isStunned(Action action)
 {
@@ -33,7 +33,7 @@ bool isStunned(Action action)
     }
 }
 
-/// How many cells of the end are of a kind.
+/// Counts the cells of one kind backward from `*from`.
 int countBack(const QVector<FrameMeter::Cell>& cells, int* from, FrameMeter::Cell kind)
 {
     int count = 0;
@@ -119,7 +119,7 @@ FrameMeter::Numbers FrameMeter::numbers(int fighter) const
     }
     Numbers numbers;
     numbers.recovery = countBack(cells, &at, Recovery);
-    // Several hits of a move count with what lies between them.
+    // The gaps between several hits of a move count as active.
     for (; at >= 0 && (cells.at(at) == Active || cells.at(at) == Recovery); --at) {
         ++numbers.active;
     }

@@ -10,10 +10,10 @@ struct State;
 
 namespace Player {
 
-/// What each fighter was in during the last ticks, and what came of the last meeting.
+/// The frame meter: the phase of each fighter during the last ticks, and the last frame advantage.
 ///
-/// All of it is read from states, so it is what has happened, and not what a text promises. Hit
-/// stops do not count: nothing goes on in them.
+/// It is computed from states, so it shows what really happened, not what the text promises. Ticks
+/// of hit stop are skipped, because nothing advances in them.
 class FrameMeter
 {
 public:
@@ -22,16 +22,17 @@ public:
     enum Cell : quint8 {
         Free,      ///< a move could start
         Start,     ///< of a move, before its first attack box
-        Active,    ///< an attack box is there
-        Recovery,  ///< behind it
-        Stun,      ///< hit or guarded, and what follows from it
-        Busy       ///< before a jump, landing, in the air and the like
+        Active,    ///< has an attack box
+        Recovery,  ///< after it
+        Stun,      ///< hit or guarded, and the consequences
+        Busy       ///< jump start, landing, in the air and similar
     };
 
-    /// A letter for each, for those who do not tell colours apart: "." "S" "A" "R" "X" "-".
+    /// A letter for each cell, for users who cannot tell the colours apart: "." "S" "A" "R" "X"
+    /// "-".
     static QChar letter(Cell cell);
 
-    /// The numbers of the last move of a fighter.
+    /// The frame data of the last move of a fighter.
     struct Numbers
     {
         int start = 0;
@@ -41,20 +42,20 @@ public:
 
     explicit FrameMeter(const Rules::Game& game) : m_game(game) {}
 
-    /// Takes the state of a tick over. One that is not later than the last one takes back what was
-    /// seen since.
+    /// Adds the state of a tick. If it is not later than the last one, removes the cells since then
+    /// first.
     void see(const Rules::State& state);
     void clear();
 
-    /// The oldest first. While both are free for long nothing is added, so that what has happened
-    /// can be read.
+    /// The cells, oldest first. After both fighters were free for a while nothing is added, so that
+    /// the last exchange stays readable.
     const QVector<Cell>& cells(int fighter) const { return m_cells[fighter]; }
 
-    /// Of the last move in the cells.
+    /// The frame data of the last move in the cells.
     Numbers numbers(int fighter) const;
 
-    /// By how many ticks the first fighter was free earlier than the second one when both last came
-    /// to be free; valid if `hasAdvantage()`.
+    /// How many ticks earlier than the second fighter the first one was free, when both last became
+    /// free. Valid if `hasAdvantage()`.
     int advantage() const;
     bool hasAdvantage() const;
 
@@ -63,7 +64,7 @@ private:
 
     const Rules::Game& m_game;
     QVector<Cell> m_cells[2];
-    QVector<int> m_ticks;  // of the state of each cell
+    QVector<int> m_ticks;  // tick of the state of each cell
 };
 
 }  // namespace Player

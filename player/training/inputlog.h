@@ -8,14 +8,14 @@ struct State;
 
 namespace Player {
 
-/// The last inputs of a fighter with their length in ticks, the newest first.
+/// An input of a fighter and its duration.
 struct HeldInput
 {
-    quint8 signs = 0;  ///< as a motion has them: forward is where the fighter looks
+    quint8 signs = 0;  ///< directions as in a motion: forward is where the fighter looks
     int ticks = 0;
 };
 
-/// Reads them from what a state remembers; `most` of them.
+/// The last `most` inputs stored in a state, newest first.
 QVector<HeldInput> lastInputs(const Rules::State& state, int fighter, int most);
 
 }  // namespace Player

@@ -7,14 +7,14 @@
 
 namespace Player {
 
-/// A match that can be stopped, turned back and begun anew where it was.
+/// A match that can be paused, rewound and restarted from its places.
 class Session
 {
 public:
-    /// One tick of the match for so many of the clock.
+    /// The number of clock ticks for one tick of the match.
     enum class Speed { Full = 1, Half = 2, Quarter = 4 };
 
-    /// The game outlives the session.
+    /// The game must outlive the session.
     explicit Session(const Rules::Game& game);
 
     const Rules::State& state() const { return m_state; }
@@ -26,36 +26,36 @@ public:
     /// How many ticks can be taken back.
     int pastTicks() const { return m_ring.count(); }
 
-    /// A tick of the clock, with what is held on the screen. True if the match went on.
+    /// Advances the clock by a tick, with the inputs held on screen. True if the match advanced.
     bool clockTick(const Rules::Inputs& inputs);
 
-    /// Goes on by a tick, paused or not.
+    /// Advances by one tick, even if paused.
     void step(const Rules::Inputs& inputs);
 
-    /// Takes the last tick back. False without one.
+    /// Takes back the last tick. False if there is none.
     bool stepBack();
 
     void setPaused(bool isPaused) { m_isPaused = isPaused; }
 
-    /// Full, half, a quarter, and full again.
+    /// Cycles through full, half and quarter speed.
     void nextSpeed();
 
-    /// What the second fighter does, one mode behind the other.
+    /// Sets the mode of the second fighter.
     void setDummy(Dummy::Mode mode) { m_dummy.setMode(mode, m_state); }
 
-    /// Both stand where they did at the beginning of the round, with all of their life and power,
-    /// and nothing that went on goes on.
+    /// Puts both fighters back to their places at the start of the round, with full life and power,
+    /// and ends everything that was running.
     void resetPlaces();
 
-    /// Goes on from a match of another game, whose characters and stage have changed: both at their
+    /// Continues a match of another game, after characters or stage have changed: both at their
     /// places, with their life and power, and free.
     void takeOver(const Session& other);
 
-    /// From the first tick of a match.
+    /// Restarts at the first tick of a match.
     void beginMatch();
 
-    /// Life and power come back as soon as both are free, the time stands still, and who is knocked
-    /// out is back at its place: a match that does not end.
+    /// An endless match: life and power are refilled as soon as both are free, the clock stands
+    /// still, and a fighter that is knocked out returns to its place.
     bool isEndless() const { return m_isEndless; }
     void setEndless(bool isEndless) { m_isEndless = isEndless; }
 

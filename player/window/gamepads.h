@@ -4,10 +4,10 @@
 
 namespace Player {
 
-/// The game pads of both people: the one that is plugged in first is the first one's. One that is
-/// pulled out leaves its place to the next.
+/// The game pads of both players. The first one plugged in belongs to the first player. When one is
+/// unplugged, its place is free for the next.
 ///
-/// Built without the option `ZORV_GAMEPAD` it hears of none by itself.
+/// Without the build option `ZORV_GAMEPAD`, it receives no events on its own.
 class Gamepads : public QObject
 {
     Q_OBJECT
@@ -20,19 +20,19 @@ public:
 
     explicit Gamepads(QObject* parent = nullptr);
 
-    /// @name What happens to the device of a number
+    /// @name Events of a device
     /// @{
     void plugIn(int device);
     void pullOut(int device);
     void setButton(int device, int button, bool isDown);
 
-    /// The left stick, which counts as the directions from half of its way on; from -1 to 1, right
-    /// and downward.
+    /// The left stick, from -1 to 1, right and down positive. It counts as a direction from half of
+    /// its way on.
     void setStick(int device, Axis axis, double value);
     /// @}
 
 signals:
-    /// The buttons that a player, 0 or 1, holds now, a bit each.
+    /// The buttons that a player (0 or 1) holds now, one bit each.
     void heldChanged(int player, quint32 buttons);
 
 private:

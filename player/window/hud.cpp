@@ -46,7 +46,7 @@ QFont fontOf(int pixels, QFont::Weight weight)
     return font;
 }
 
-/// A bar that empties from the outer side: both meet in the middle of the screen.
+/// A bar that empties from the outer side, so that both meet in the middle of the screen.
 void paintBar(QPainter* painter, const QRectF& area, qreal share, int index, const QColor& left,
               const QColor& lost)
 {
@@ -80,14 +80,14 @@ QString Hud::readableName(const FighterData& data) const
     const bool isReadable = std::all_of(letters.cbegin(), letters.cend(), [&metrics](uint letter) {
         return !QChar::isLetterOrNumber(letter) || metrics.inFontUcs4(letter);
     });
-    // A copy that an editor has made has no suffix, but stands in the folder of the character.
+    // A copy made by the editor has no suffix, but is in the folder of the character.
     const QFileInfo file(data.mainFile);
     return isReadable                ? data.name
            : file.suffix().isEmpty() ? file.dir().dirName()
                                      : file.completeBaseName();
 }
 
-/// With a dark rim, to be read on any ground.
+/// Draws a dark outline to be readable on any background.
 void Hud::paintText(QPainter* painter, const QRectF& area, int flags, const QString& text,
                     const QFont& font) const
 {
@@ -128,7 +128,7 @@ void Hud::paintSide(QPainter* painter, const Game& game, const State& state, int
         painter->setBrush(i < fighter.wins ? Won : PowerLost);
         painter->drawEllipse(QPointF(x, names.center().y()), 4, 4);
     }
-    // The hits in a row are those of the other side.
+    // The combo counter belongs to the attacker, the count is stored with the victim.
     const FighterState& other = state.fighters[1 - index];
     if (other.combo > 1) {
         paintText(painter, QRectF(left, 60, BarWidth, 40), side | Qt::AlignTop,
@@ -158,7 +158,7 @@ QString Hud::announcement(const Game& game, const State& state) const
 void Hud::paintPage(QPainter* painter, const QString& title, const QStringList& lines) const
 {
     const QRectF page(70, 40, Width - 140, Height - 70);
-    // Closer together if there are many.
+    // Many lines are set closer together.
     const qreal room = page.height() - 36;
     const qreal lineHeight = qBound<qreal>(11, room / qMax(lines.size(), 1), 14);
     painter->fillRect(page, Veil);

@@ -15,8 +15,8 @@ struct State;
 
 namespace Player {
 
-/// What is written and drawn above the picture of a match: life, power, rounds, the time, who has
-/// won. It is laid out on 640 by 360, and scaled to whatever it is shown in.
+/// Draws the head-up display of a match: life, power, rounds, time and the winner. Its layout is
+/// 640 by 360, scaled to the size of the window.
 class Hud
 {
     Q_DECLARE_TR_FUNCTIONS(Player::Hud)
@@ -27,15 +27,15 @@ public:
 
     Hud();
 
-    /// The name of a character; that of its file where no font of this computer has the letters.
+    /// The name of a character. If no font on this computer has its letters, the name of its file.
     QString readableName(const Rules::FighterData& data) const;
 
     void paint(QPainter* painter, const Rules::Game& game, const Rules::State& state) const;
 
-    /// A page of lines with a title, above all else. Tabs stand between columns.
+    /// A page of lines with a title, on top of everything. Columns are separated by tabs.
     void paintPage(QPainter* painter, const QString& title, const QStringList& lines) const;
 
-    /// Some lines above the lower edge, the rest as a number.
+    /// Shows some lines above the lower edge, and the number of the others.
     void paintNotes(QPainter* painter, const QStringList& notes) const;
 
 private:

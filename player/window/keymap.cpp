@@ -27,7 +27,7 @@ constexpr int usual[2][Keymap::SignCount] = {
      Qt::Key_O},
 };
 
-/// Of the signs, as places in `padNames()`.
+/// For each action, an index in `padNames()`.
 constexpr int usualPad[Keymap::SignCount] = {12, 13, 15, 14, 0, 1, 2, 9};
 
 const QLatin1String padMark("pad ");
@@ -41,7 +41,7 @@ int signCalled(const QString& name)
     return found == std::end(table) ? -1 : int(found - std::begin(table));
 }
 
-/// The one key that a name stands for; 0 for anything else.
+/// The key code of a name; 0 unless it is a single key.
 int keyCalled(const QString& name)
 {
     const QKeySequence keys = QKeySequence::fromString(name, QKeySequence::PortableText);
@@ -99,7 +99,7 @@ bool Keymap::readLine(const QString& line)
     return true;
 }
 
-/// A key has one meaning: another sign that had it has none from then on.
+/// A key has only one action: it is removed from any other.
 void Keymap::set(int player, int sign, int key)
 {
     for (auto& keys : m_keys) {

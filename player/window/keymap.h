@@ -6,17 +6,17 @@
 
 namespace Player {
 
-/// Which key of the keyboard, and which button of a game pad, stands for what, for two people.
+/// Maps keys of the keyboard and buttons of game pads to the actions of both players.
 ///
-/// The text of a file has lines such as `1 light = F`: the player, what it does and the key as Qt
-/// calls it; `1 light = pad A` is a button of its game pad. `#` begins a comment. What a file does
-/// not say stays as it is without one.
+/// A key file has lines such as `1 light = F`: player, action, and Qt's name of the key. `1 light =
+/// pad A` is a button of the player's game pad. `#` starts a comment. Everything that the file does
+/// not set keeps its default.
 class Keymap
 {
     Q_DECLARE_TR_FUNCTIONS(Player::Keymap)
 
 public:
-    /// What a player can do, as bits of `Rules::Inputs::signs`.
+    /// An action of a player, as a bit of `Rules::Inputs::signs`.
     struct Sign
     {
         const char* name;
@@ -25,30 +25,30 @@ public:
     static constexpr int SignCount = 8;
     static const Sign (&signs())[SignCount];
 
-    /// The usual keys.
+    /// Creates the default mapping.
     Keymap();
 
-    /// The file in the person's own folder of settings, which need not be there.
+    /// The key file in the user's settings folder. It need not exist.
     static QString fileName();
 
-    /// Takes over what a text says. Lines that mean nothing are left out, and told in `notes()`.
+    /// Applies a key file. Invalid lines are skipped and reported in `notes()`.
     void read(const QString& text);
 
-    /// The whole of it as the text of a file.
+    /// The complete mapping as the text of a key file.
     QString text() const;
 
     QStringList notes() const { return m_notes; }
 
-    /// The player, 0 or 1, and the bit of a key; false for any other key.
+    /// The player (0 or 1) and the action bit of a key; false for any other key.
     bool find(int key, int* player, quint8* bit) const;
 
-    /// What a player does with these buttons of a game pad, bits in the order of `padNames()`.
+    /// The action bits for pressed buttons of a game pad; bits are in the order of `padNames()`.
     quint8 padSigns(int player, quint32 buttons) const;
 
-    /// The buttons of game pads.
+    /// The names of the buttons of game pads.
     static QStringList padNames();
 
-    /// The name of the key for a sign of a player.
+    /// The name of the key for an action of a player.
     QString keyName(int player, int sign) const;
 
 private:

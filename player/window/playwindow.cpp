@@ -35,7 +35,7 @@ const char* const keyLines[] = {
     QT_TRANSLATE_NOOP("Player::PlayWindow", "F11, Esc\tthe whole screen; the end"),
 };
 
-/// Opaque as it is: so it is copied without a look at the alpha of each pixel.
+/// Marks the image as opaque, so that Qt copies it without testing the alpha of each pixel.
 QImage asOpaque(const QImage& image)
 {
     return QImage(image.constBits(), image.width(), image.height(), image.bytesPerLine(),
@@ -58,8 +58,8 @@ PlayWindow::PlayWindow(std::unique_ptr<LoadedMatch> match, const MatchRequest& r
 
 PlayWindow::~PlayWindow() = default;
 
-/// What is made of a match that was loaded. Nothing of the one before is left: all of it knows the
-/// other game.
+/// Creates everything that depends on the match. Nothing of the previous match may remain, because
+/// it refers to the old game.
 void PlayWindow::open()
 {
     m_scene = std::make_unique<Scene>(m_match->game, m_match->looks, m_match->stage);
@@ -74,7 +74,7 @@ void PlayWindow::open()
         tr("%1 against %2").arg(m_match->game.fighters[0].name, m_match->game.fighters[1].name));
 }
 
-/// Of a copy what it was made of: that is what is saved.
+/// For a copy, watches the originals, because those are the files that are saved.
 void PlayWindow::watchFiles()
 {
     LoadedMatch originals;
@@ -84,7 +84,8 @@ void PlayWindow::watchFiles()
                                                                              : m_match->files);
 }
 
-/// What an editor has that is there counts more than what is saved.
+/// With an editor connected, notifies the editor instead of reloading, because it also knows
+/// unsaved changes.
 void PlayWindow::lookAtFiles()
 {
     if (!m_stamps.hasChanged()) {
@@ -103,7 +104,7 @@ void PlayWindow::setEditor(const QString& socketName)
     connect(m_editor.get(), &EditorLink::playAsked, this, &PlayWindow::play);
 }
 
-/// Another stage leaves both as they are; with another character comes somebody else to meet it.
+/// A new stage keeps both characters. A new character gets a different opponent.
 void PlayWindow::play(const QString& copy, const QString& original, bool isStage)
 {
     MatchRequest request = withOriginal(m_request);
@@ -209,7 +210,7 @@ void PlayWindow::goOn()
     emit ticked();
 }
 
-/// By one tick, from a match that stands still.
+/// Steps a tick forward or back, and pauses the match.
 void PlayWindow::step(int by)
 {
     m_session->setPaused(true);
@@ -222,7 +223,7 @@ void PlayWindow::step(int by)
     m_sounds->setPaused(true);
 }
 
-/// A request to paint may come later than the next tick, or together with it.
+/// Paints at once, because a paint request may be handled after the next tick or be merged with it.
 void PlayWindow::paintNow()
 {
     if (!isExposed()) {
@@ -234,7 +235,7 @@ void PlayWindow::paintNow()
     QCoreApplication::sendEvent(this, &request);
 }
 
-/// As large as the window has room for it, without another shape.
+/// The largest area in the window with the shape of the stage's screen.
 QRectF PlayWindow::target() const
 {
     const QSizeF shape = m_match->stage.screen;
@@ -315,7 +316,7 @@ bool PlayWindow::takeWindowKey(int key)
     }
 }
 
-/// What a key that is held does again is only to step.
+/// Key repeat only works for stepping.
 bool PlayWindow::takeTrainingKey(int key)
 {
     switch (key) {
@@ -371,7 +372,7 @@ void PlayWindow::keyPressEvent(QKeyEvent* event)
     press(bit);
 }
 
-/// A button begins the next match.
+/// A button starts the next match.
 void PlayWindow::press(quint8 bits)
 {
     if ((bits & Family::MotionStep::Buttons) != 0 && state().phase == Rules::Phase::MatchOver) {
@@ -386,7 +387,7 @@ void PlayWindow::holdPad(int player, quint32 buttons)
     press(quint8(m_padInputs.signs[player] & ~before));
 }
 
-/// Of keyboard and game pads together.
+/// The combined inputs of keyboard and game pads.
 Rules::Inputs PlayWindow::inputs() const
 {
     Rules::Inputs all = m_inputs;
@@ -405,7 +406,7 @@ void PlayWindow::keyReleaseEvent(QKeyEvent* event)
     }
 }
 
-/// What is let go elsewhere is not heard of.
+/// The window gets no key release events while another window has the focus.
 void PlayWindow::focusOutEvent(QFocusEvent*)
 {
     m_inputs = {};

@@ -22,32 +22,32 @@ class Scene;
 
 /// The window in which two people play a match at one keyboard.
 ///
-/// It can be stopped, turned back and looked into; see docs/engine.md for its keys. Every tick is
-/// painted, right when it has been; while nothing of the window is seen, time goes on
-/// without. What the person has to know of the files stands at the lower edge for a while.
+/// It can be paused, rewound and inspected; see docs/engine.md for the keys. Every tick is painted
+/// immediately. While the window is not visible, the match runs without painting. Messages about
+/// the files are shown at the lower edge for a while.
 class PlayWindow : public QRasterWindow
 {
     Q_OBJECT
 
 public:
-    /// With `request`, by which the match was loaded, it is loaded anew when its files change, or
-    /// what a copy was made of; both go on from their places.
+    /// `request` is how the match was loaded. With it, the match is reloaded when its files, or the
+    /// original of a copy, change. Both fighters then continue from their places.
     explicit PlayWindow(std::unique_ptr<LoadedMatch> match, const MatchRequest& request = {});
     ~PlayWindow() override;
 
     const Rules::State& state() const { return m_session->state(); }
     const Session& session() const { return *m_session; }
 
-    /// How many ticks were painted since the window was made.
+    /// The number of ticks painted since the window was created.
     int paintedTicks() const { return m_paintedTicks; }
 
     Gamepads* gamepads() { return &m_pads; }
 
-    /// Finds the editor at a local socket, and plays what it sends: its files are not watched for
-    /// changes then, for the editor knows more than is saved.
+    /// Connects to the editor at a local socket and plays what it sends. The files are then not
+    /// watched, because the editor also knows unsaved changes.
     void setEditor(const QString& socketName);
 
-    /// Shows the window and lets time go.
+    /// Shows the window and starts the clock.
     void begin();
 
 signals:
@@ -87,7 +87,7 @@ private:
     std::unique_ptr<Scene> m_scene;
     std::unique_ptr<MatchSounds> m_sounds;
     std::unique_ptr<Session> m_session;
-    Rules::Inputs m_inputs;  // of the keyboard
+    Rules::Inputs m_inputs;  // from the keyboard
     Rules::Inputs m_padInputs;
     Gamepads m_pads;
     Keymap m_keys;

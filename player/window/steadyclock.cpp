@@ -6,7 +6,7 @@ namespace {
 
 constexpr qint64 Second = 1000000000;
 constexpr qint64 Millisecond = 1000000;
-constexpr qint64 Early = Millisecond / 4;  // as good as due
+constexpr qint64 Early = Millisecond / 4;  // close enough to be due
 constexpr qint64 MostDelay = Second / 4;
 
 }  // namespace
@@ -31,7 +31,7 @@ void SteadyClock::stop()
     m_timer.stop();
 }
 
-/// Counted from the start, so that nothing that is rounded adds up.
+/// Calculated from the start time, so that rounding errors do not add up.
 qint64 SteadyClock::dueTime() const
 {
     return m_start + (m_ticks + 1) * Second / TicksASecond;

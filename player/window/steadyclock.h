@@ -5,8 +5,8 @@
 
 namespace Player {
 
-/// Ticks, 60 a second, none of them skipped: what comes late is made up for, and after a longer
-/// stop time goes on from there.
+/// Emits 60 ticks a second. Late ticks are caught up, but after a longer pause the clock continues
+/// from the current time.
 class SteadyClock : public QObject
 {
     Q_OBJECT

@@ -21,7 +21,7 @@ constexpr qreal InputsTop = 96;
 
 const QColor Veil(0, 0, 0, 170);
 
-/// Of the cells in their order.
+/// In the order of the cells.
 const QColor cellColors[] = {QColor(0x50, 0x58, 0x60), QColor(0x38, 0xa8, 0x50),
                              QColor(0xe8, 0x48, 0x38), QColor(0x38, 0x78, 0xe0),
                              QColor(0xe8, 0xc0, 0x30), QColor(0x90, 0x60, 0xb0)};
@@ -45,7 +45,7 @@ TrainingHud::TrainingHud() : m_font(QStringLiteral("sans-serif"))
     m_font.setPixelSize(8);
 }
 
-/// A letter and its length stand at the beginning of each run, where there is room.
+/// Each run starts with its letter and length, if there is room.
 void TrainingHud::paintRow(QPainter* painter, const FrameMeter& meter, int fighter, qreal top) const
 {
     const QVector<FrameMeter::Cell>& cells = meter.cells(fighter);

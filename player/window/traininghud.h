@@ -11,8 +11,8 @@ namespace Player {
 
 class Session;
 
-/// What is shown to those who make characters: the frame meter, what is held for how long, and how
-/// the match goes on. On the same 640 by 360 as `Hud`.
+/// The training display for character authors: frame meter, input history, and the state of the
+/// session. Same layout of 640 by 360 as `Hud`.
 class TrainingHud
 {
     Q_DECLARE_TR_FUNCTIONS(Player::TrainingHud)
@@ -23,7 +23,7 @@ public:
     void paintMeter(QPainter* painter, const FrameMeter& meter) const;
     void paintInputs(QPainter* painter, const Session& session) const;
 
-    /// Pause, speed and dummy, as far as they are not the usual ones.
+    /// Shows pause, speed and dummy mode, where they differ from the default.
     void paintStatus(QPainter* painter, const Session& session) const;
 
 private:
