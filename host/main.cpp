@@ -20,8 +20,8 @@ namespace {
 
 QtMessageHandler s_otherMessages = nullptr;
 
-// Qt wants a folder that only a session of a desktop has, and does without; and tells of what a
-// picture can be shown without, but not in which file.
+// Drops two warnings. Qt complains about XDG_RUNTIME_DIR, which exists only in a desktop session
+// and is not needed. libpng reports harmless defects of a picture, without the name of its file.
 void passMessage(QtMsgType type, const QMessageLogContext& context, const QString& text)
 {
     if (!text.contains(QLatin1String("XDG_RUNTIME_DIR")) &&
@@ -30,13 +30,13 @@ void passMessage(QtMsgType type, const QMessageLogContext& context, const QStrin
     }
 }
 
-// A file that is opened must not take the number of a closed standard stream,
-// or what is printed would go into it. Writing to what stands in fails.
+// If a standard stream is closed, the next file opened gets its number, and output would be written
+// into that file. The placeholder is read-only, so that writing to it fails.
 void keepStandardStreams()
 {
     for (int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
         if (fcntl(stream, F_GETFD) == -1) {
-            // The lowest free number is the one that is missing.
+            // open() uses the lowest free number, which is the missing one.
             const int file = open("/dev/null", O_RDONLY | O_CLOEXEC);
             if (file != stream) {
                 _exit(Cli::NotDone);
@@ -45,7 +45,7 @@ void keepStandardStreams()
     }
 }
 
-// Without a locale file names are UTF-8 still.
+// Without a locale, file names are still UTF-8.
 void setUpTexts()
 {
     setlocale(LC_CTYPE, "");
@@ -64,7 +64,7 @@ QStringList argumentsOf(int argc, char** argv)
     return arguments;
 }
 
-/// Bytes that are no characters would be written to files as something else.
+/// Rejects arguments that are not valid text: they would be written to files as other bytes.
 bool areArgumentsText(char** argv, const QStringList& arguments)
 {
     for (int i = 0; i < arguments.size(); ++i) {
@@ -79,7 +79,7 @@ bool areArgumentsText(char** argv, const QStringList& arguments)
     return true;
 }
 
-/// A variable of the environment with another value for a while.
+/// Sets an environment variable temporarily.
 class ChangedVariable
 {
 public:
@@ -105,14 +105,14 @@ int runOnCommandLine(char** argv, const QStringList& arguments)
     if (!areArgumentsText(argv, arguments)) {
         return Cli::WrongUsage;
     }
-    // A document measures its text with fonts, so Qt needs a platform; this one
-    // has neither display nor fonts, and asks no desktop for anything.
+    // Documents measure text with fonts, so Qt needs a platform. This one has no display and no
+    // fonts, and does not query the desktop.
     const ChangedVariable platform("QT_QPA_PLATFORM", "minimal");
     const ChangedVariable theme("QT_QPA_PLATFORMTHEME", QByteArray());
-    // The arguments are not Qt's.
+    // Qt must not interpret the arguments.
     int argc = 1;
     QGuiApplication application(argc, argv);
-    // An engine that is started may have a window.
+    // A started engine may open a window.
     platform.restore();
     theme.restore();
     return Cli::runCommand(arguments);
@@ -130,13 +130,13 @@ int runInWindow(int& argc, char** argv, const QStringList& arguments)
     }
     if (hasPlatform || isPicture) {
         QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-        // The stage shows textures that are made in the context of the library.
+        // The stage shows textures created in the library's OpenGL context.
         QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
-        // A screen at one and a half is one at one and a half: the icons are drawn for it.
+        // Keep a scale factor of 1.5 as it is: there are icons for it.
         QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
             Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
         QApplication application(argc, argv);
-        // Qt has taken its own options out of these.
+        // Qt has already removed its own options.
         return App::runWindow(application, QCoreApplication::arguments().mid(1));
     }
     fputs("zorv: There is no display for the window. 'zorv help' tells what can be done without "
@@ -149,8 +149,7 @@ int runInWindow(int& argc, char** argv, const QStringList& arguments)
 
 int main(int argc, char** argv)
 {
-    // A reader that goes away, or a file that may not grow, is a failed write
-    // and not the end.
+    // A closed pipe or a file size limit must be a failed write, not kill the program.
     signal(SIGPIPE, SIG_IGN);
     signal(SIGXFSZ, SIG_IGN);
     keepStandardStreams();

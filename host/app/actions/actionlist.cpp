@@ -57,7 +57,7 @@ void ActionList::fill()
             found.append({name, score, m_registry->menuPlace(name)});
         }
     }
-    // Equal ones in the order of the menus.
+    // Equal scores: in menu order.
     std::stable_sort(found.begin(), found.end(), [](const Found& a, const Found& b) {
         return a.score != b.score ? a.score > b.score : a.place < b.place;
     });

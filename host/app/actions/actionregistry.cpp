@@ -65,7 +65,7 @@ QMenu* menuOf(const QAction* action)
 {
     const QList<QWidget*> widgets = action->associatedWidgets();
     for (QWidget* widget : widgets) {
-        // A menu without a title is what Qt shows for a menu bar that is too narrow.
+        // Qt's overflow menu of a menu bar that is too narrow has no title.
         auto* menu = qobject_cast<QMenu*>(widget);
         if (menu && !menu->title().isEmpty()) {
             return menu;
@@ -99,7 +99,7 @@ struct ActionRegistry::Private
         entry.action->setShortcut(QKeySequence(chosen.toString(), QKeySequence::PortableText));
     }
 
-    /// Keys of one widget each do not meet: one of the two has the focus.
+    /// Shortcuts of two different widgets do not clash: only one of the widgets has the focus.
     static bool canMeet(const Entry& one, const Entry& other)
     {
         const bool areOfWidgets = one.action && isOfWidget(one.action) && isOfWidget(other.action);
@@ -112,7 +112,7 @@ struct ActionRegistry::Private
                action->shortcutContext() == Qt::WidgetWithChildrenShortcut;
     }
 
-    /// The key of `entry` that is in the way of one of `keys`; empty if none is.
+    /// The shortcut of `entry` that clashes with one of `keys`; empty if none does.
     static QKeySequence keyInTheWay(const Entry& entry, const QList<QKeySequence>& keys)
     {
         const QList<QKeySequence> own = entry.action->shortcuts();
@@ -129,7 +129,7 @@ struct ActionRegistry::Private
 
 ActionRegistry::ActionRegistry(QObject* parent) : QObject(parent), d(std::make_unique<Private>()) {}
 
-// Actions may outlive it, and tell of their end.
+// Actions can outlive the registry, and would report their destruction to it.
 ActionRegistry::~ActionRegistry()
 {
     for (const Entry& entry : qAsConst(d->entries)) {
@@ -147,7 +147,7 @@ AreaGate* ActionRegistry::add(QAction* action, const ActionInfo& info)
         d->forget(info.name);
     }
     if (old.action && old.action != action) {
-        // Two with one key would both be dead.
+        // With the same shortcut on two actions, Qt would trigger neither.
         old.action->setShortcuts(QList<QKeySequence>());
         old.action->setVisible(false);
     }
@@ -155,7 +155,7 @@ AreaGate* ActionRegistry::add(QAction* action, const ActionInfo& info)
     d->names.append(info.name);
     d->entries.insert(info.name, {action, info, gate});
     action->setObjectName(info.name);
-    // A dialog, and any other window, has keys of its own.
+    // Other windows, such as dialogs, have shortcuts of their own.
     action->setShortcutContext(Qt::WindowShortcut);
     info.text.apply(action);
     setIcon(action, info);
@@ -248,7 +248,7 @@ void ActionRegistry::setShortcut(const QString& name, const QKeySequence& key)
     if (!d->entries.contains(name)) {
         return;
     }
-    // A null text would take the setting away, and with it the choice of no key.
+    // A null string would remove the setting, and forget that the user chose no shortcut.
     const QString text = key.toString(QKeySequence::PortableText);
     Zorv::Interface::instance()->setOption(settingOf(name),
                                            text.isEmpty() ? QString(QLatin1String("")) : text);

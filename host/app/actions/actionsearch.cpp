@@ -48,7 +48,7 @@ void ActionSearch::makeView()
     m_view->setRootIsDecorated(false);
     m_view->setUniformRowHeights(true);
     m_view->setAllColumnsShowFocus(true);
-    // The keys stay in the field.
+    // The focus stays in the field.
     m_view->setFocusPolicy(Qt::NoFocus);
     m_view->header()->hide();
     m_view->header()->setStretchLastSection(false);
@@ -62,7 +62,7 @@ void ActionSearch::filter(const QString& typed)
     m_view->setCurrentIndex(m_list->index(firstEnabledRow(0, 1), 0));
 }
 
-/// The first row from one on that can be run; -1 if there is none.
+/// The first enabled row, starting at `from`; -1 if there is none.
 int ActionSearch::firstEnabledRow(int from, int step) const
 {
     for (int row = from; row >= 0 && row < m_list->rowCount(); row += step) {
@@ -102,7 +102,8 @@ void ActionSearch::choose(const QModelIndex& index)
         return;
     }
     accept();
-    // What it does may open a dialog of its own, and wants the focus where it was.
+    // Triggered later: the action may open a dialog, and expects the focus where it was before this
+    // one.
     QMetaObject::invokeMethod(action, &QAction::trigger, Qt::QueuedConnection);
 }
 

@@ -32,7 +32,7 @@ QString ActionText::plain(QString text)
 {
     for (int i = text.indexOf(QLatin1Char('&')); i >= 0; i = text.indexOf(QLatin1Char('&'), i)) {
         text.remove(i, 1);
-        // "&&" stands for one.
+        // "&&" is an escaped "&".
         i += i < text.size() && text[i] == QLatin1Char('&') ? 1 : 0;
     }
     if (text.endsWith(QLatin1String("..."))) {

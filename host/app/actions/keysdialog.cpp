@@ -50,7 +50,7 @@ void KeysDialog::makeView()
     m_view->setUniformRowHeights(true);
     m_view->setAllColumnsShowFocus(true);
     m_view->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    // By menu: that is the order in which all of them come.
+    // The menu column first: the list is in menu order.
     m_view->header()->moveSection(ActionList::MenuColumn, 0);
 }
 
@@ -61,7 +61,7 @@ QWidget* KeysDialog::makeButtons()
     QPushButton* html = box->addButton(QString(), QDialogButtonBox::ActionRole);
     pdf->setObjectName(QStringLiteral("save_pdf"));
     html->setObjectName(QStringLiteral("save_html"));
-    // Return in the field looks for something, and saves nothing.
+    // Return in the search field must not press a button and save.
     pdf->setAutoDefault(false);
     html->setAutoDefault(false);
     followLanguage(box, [pdf, html] {

@@ -15,7 +15,7 @@ namespace App {
 
 namespace {
 
-constexpr int PdfResolution = 300;  // dots an inch
+constexpr int PdfResolution = 300;  // dots per inch
 constexpr int PdfMargin = 15;       // millimetres
 
 /// Makes the texts of this file known to translators.

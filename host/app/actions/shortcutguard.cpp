@@ -17,7 +17,7 @@ namespace App {
 
 namespace {
 
-// The ways out of a panel are open from its fields too.
+// These shortcuts leave a panel, so they must work in its fields too.
 const QStringList waysOut{QStringLiteral("next_panel"), QStringLiteral("previous_panel")};
 
 bool isTextEdit(const QWidget* widget)
@@ -37,7 +37,7 @@ bool isField(const QWidget* widget)
            isTextEdit(widget);
 }
 
-/// True for keys that write or move in a text.
+/// True for keys that write or move the cursor in a text.
 bool isTyping(const QKeyEvent& key)
 {
     const bool isPlain =
@@ -46,7 +46,7 @@ bool isTyping(const QKeyEvent& key)
     return isPlain && !isFunctionKey;
 }
 
-/// A sign that needs the shift key comes with it, and is a key without it.
+/// A character typed with Shift has the modifier in the event, but not in the shortcut.
 bool startsWith(const QKeySequence& sequence, int key)
 {
     return !sequence.isEmpty() &&
@@ -66,7 +66,8 @@ bool ShortcutGuard::eventFilter(QObject* watched, QEvent* event)
     if (event->type() == QEvent::ShortcutOverride && watched->isWidgetType()) {
         auto* key = static_cast<QKeyEvent*>(event);
         if (isForField(static_cast<QWidget*>(watched), *key)) {
-            // Taken: it comes as a key press, and not as a shortcut.
+            // Accepting a ShortcutOverride makes Qt send a key press instead of triggering a
+            // shortcut.
             key->accept();
             return true;
         }

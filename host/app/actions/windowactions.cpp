@@ -9,8 +9,8 @@
 
 #include <algorithm>
 
-// The library is a static one: nothing else brings its resources in. Qt's macro
-// names a function of the global namespace.
+// The library is static, so its resources must be loaded explicitly. Q_INIT_RESOURCE only works in
+// the global namespace.
 static void loadResources()
 {
     Q_INIT_RESOURCE(host_icons);
@@ -36,8 +36,8 @@ WindowActions::WindowActions(QMainWindow* window)
     }
 }
 
-/// A line ends a section, or marks its end unseen. Lines with nothing between them are shown as
-/// one, and none at an end.
+/// Each section ends with a separator; a section marked "+" ends with an invisible one. Qt merges
+/// adjacent separators and hides those at the end.
 void WindowActions::makeMenu(const MenuRow& row)
 {
     auto* made = new QMenu(menuTitle(row), m_window->menuBar());

@@ -6,6 +6,11 @@
 
 #include <algorithm>
 
+// Each typed word is scored against the label and the path. From best to worst: it begins a word,
+// it occurs anywhere in the joined words, its letters occur there in the same order. Beginning the
+// first word, and matching in the label, give a bonus. Comparing case-folded words makes the match
+// independent of case.
+
 namespace App {
 
 namespace {

@@ -36,7 +36,7 @@ AnimationCommands::AnimationCommands(const WindowServices& services)
     connect(m_organizer, &OrganizerEditor::rowActivated, this, &AnimationCommands::requestRow);
     connect(m_organizer, &OrganizerEditor::currentRowChanged, services.parts,
             &PartList::updateSoon);
-    // Edits have taken the cursor of the text to where the animations were.
+    // The edits moved the text cursor to the old place of the animations.
     connect(m_organizer, &OrganizerEditor::selectionMoved, this,
             [this] { requestRow(m_organizer->currentRow()); });
 }
@@ -59,7 +59,7 @@ void AnimationCommands::showDocument(Family::FamilyDocument* document)
     showAnimations();
 }
 
-/// Other editors borrow the organizer for their lists, and leave it empty.
+/// Other editors borrow the organizer for their lists and return it empty.
 void AnimationCommands::updateState()
 {
     if (!m_organizer->object()) {

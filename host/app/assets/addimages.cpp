@@ -29,8 +29,8 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(App::AddImages)
 };
 
-/// Where a new animation goes: to the text in front if it has some, else to the first that has,
-/// else to the first that is for them. Null without any.
+/// The destination of a new animation: the current text if it has animations, else the first text
+/// with animations, else the first text meant for them. Null if there is none.
 FamilyDocument* placeOfAnimations(const FamilyProject& project, FamilyDocument* front)
 {
     QList<FamilyDocument*> documents = project.documents();
@@ -83,7 +83,8 @@ void addImages(const WindowServices& services, Family::SpriteCollection* into,
         Operations::addAnimation(animations, dialog.animation(), framesOf(ids, dialog.ticks()),
                                  &error);
     }
-    // What is left out does not keep the rest from being there.
+    // A skipped image is no reason to report failure: the others were added. So errors become
+    // warnings.
     result.warnings = result.errors + result.warnings;
     result.warnings += error.isEmpty() ? QStringList() : QStringList(error);
     result.errors.clear();

@@ -83,7 +83,7 @@ void setAxesOfSelected(const SpritePanel* panel, Zorv::SpriteEditor* canvas, QWi
     if (dialog.exec() != QDialog::Accepted || !sprites || panel->sprites() != sprites) {
         return;
     }
-    // The file can be read again behind the dialog: what is in a row now may be another sprite.
+    // The file can be reloaded while the dialog is open: a row may hold another sprite now.
     const QVector<int> before = rows;
     const auto isAnother = [&](int row) {
         const Family::FamilySprite* sprite = sprites->sprite(row);
@@ -95,7 +95,8 @@ void setAxesOfSelected(const SpritePanel* panel, Zorv::SpriteEditor* canvas, QWi
     if (isOnCanvas) {
         canvas->saveImage();
     }
-    // What cannot be saved keeps its axis, which would come back with the next save. Why is told.
+    // If the canvas cannot be saved, do not change its axis: the next save would restore the old
+    // one. The user is told why.
     const bool isSaved = !isOnCanvas || !canvas->isCanvasModified();
     const Operations::MediaResult result =
         isSaved ? Operations::setAxes(sprites, rows, dialog.base(), dialog.offset())

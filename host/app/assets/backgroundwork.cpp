@@ -3,6 +3,11 @@
 #include <QMutex>
 #include <QThreadPool>
 
+// Requests wait in a stack, so the newest runs first. A few worker threads take from it. A worker
+// returns a function, which is run in the owner's thread. All workers share a gate with a lock and
+// a pointer to the owner; the destructor clears the pointer, so that late results are dropped and
+// nobody has to wait.
+
 namespace App {
 
 namespace {
@@ -11,7 +16,7 @@ constexpr int MaxRunning = 2;
 
 }  // namespace
 
-/// Through which threads reach the object as long as it lives.
+/// Worker threads reach the owner only through this gate, which outlives it.
 struct BackgroundWork::Gate
 {
     QMutex lock;

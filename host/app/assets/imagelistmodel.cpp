@@ -15,9 +15,9 @@ using Operations::ImportImage;
 namespace {
 
 constexpr int Side = 56;
-constexpr int MaxThumbnails = 4096;  // about 50 MiB; more are read again when they are seen again
+constexpr int MaxThumbnails = 4096;  // about 50 MiB; others are read again when they become visible
 
-/// A small picture with its middle in the middle; those that are smaller stay as large as they are.
+/// A thumbnail, centred; pictures smaller than `side` are not enlarged.
 QImage smallOf(const QImage& picture, int side)
 {
     QImage small = picture;
@@ -161,7 +161,7 @@ QPixmap ImageListModel::thumbnail(int row) const
             return BackgroundWork::Then([self, key, small] { self->take(key, small); });
         });
     }
-    // As large as the picture will be, so that no row changes its height.
+    // The placeholder has the size of a thumbnail, so that rows keep their height.
     QPixmap none(side(), side());
     none.fill(Qt::transparent);
     return none;

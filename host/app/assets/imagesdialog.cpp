@@ -25,9 +25,9 @@
 
 #include <algorithm>
 
-// Numbers are given anew a moment after the last change of the form: of ten thousand names that
-// takes longer than a key may. The preview asks for one picture at a time and drops all answers but
-// the last, so that it follows the arrow keys whatever the pictures cost.
+// Numbers are recomputed shortly after the last change of the form: for ten thousand names this
+// takes longer than a key press may. The preview drops all pictures but the last one requested, so
+// that it keeps up with the arrow keys, however slow the pictures are.
 
 namespace App {
 
@@ -67,8 +67,8 @@ QVector<Zorv::RGBA> asList(const Family::PaletteColors& colors)
     return QVector<Zorv::RGBA>(colors.begin(), colors.end());
 }
 
-/// What the sprite will look like. Colours that all images are to share are not known before all
-/// of them were read: those of this one stand for them.
+/// Shows the colours that the sprite will have. A palette shared by all images is known only after
+/// all of them were read; until then, this image's own colours are used.
 void showColors(ImportPixels* pixels, const ImportRequest& request,
                 const QVector<Zorv::RGBA>& palette)
 {
@@ -160,7 +160,7 @@ QWidget* ImagesDialog::makeList(QSize screen)
     return side;
 }
 
-/// The form scrolls where the screen is too low for it.
+/// The form scrolls if the screen is too low for it.
 QWidget* ImagesDialog::makeForm(const Target& target)
 {
     const Family::FamilySprite* current = m_sprites->sprite(m_sprites->currentIndex);
@@ -229,7 +229,7 @@ void ImagesDialog::addLater(const std::function<Operations::SheetImages()>& read
     updateState();
 }
 
-/// In the order in which they were asked for, whichever was read first.
+/// Adds sheets in the order of the requests, whichever was read first.
 void ImagesDialog::takeSheets()
 {
     for (; m_readSheets.contains(m_takenSheets); ++m_takenSheets) {
@@ -347,7 +347,7 @@ void ImagesDialog::takePicture(int row, const ImportPixels& pixels)
     }
 }
 
-/// Shows the next frame when this one's time is over; the list stays where the person is.
+/// Shows the next frame when the time of this one is over. The selection in the list does not move.
 void ImagesDialog::playNext()
 {
     if (!m_form->makesAnimation() || images().isEmpty()) {

@@ -27,12 +27,12 @@ constexpr int MaxTicks = 32767;
 constexpr int UsualTicks = 6;
 constexpr int MostColors = 256;
 
-/// The first two of the palettes; those of the file stand behind.
+/// The first entries of the palette list; the palettes of the file follow.
 enum PaletteChoice { OwnPalette, NewPalette, FirstOfFile };
 
 enum NumbersChoice { ByNames, InOrder };
 
-/// In front of the places of an image.
+/// Precedes the places of an image.
 constexpr int FromFile = 0;
 
 QSpinBox* numberBox(int least, int most, int value)

@@ -49,7 +49,7 @@ void SpriteCommands::actionsMade()
     }
 }
 
-/// A text can come to name another file.
+/// An edit can make the text name another sprite file.
 void SpriteCommands::showProject(Family::FamilyProject* project)
 {
     m_panel->setSprites(
@@ -79,7 +79,7 @@ QVector<PanelPlace> SpriteCommands::places()
     return {PanelPlace::of(m_panel, rows)};
 }
 
-/// A file that has gone can be brought back.
+/// A file missing on disk can be written again.
 bool SpriteCommands::canSave() const
 {
     const Zorv::Sprites* sprites = m_panel->sprites();

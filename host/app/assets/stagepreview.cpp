@@ -9,7 +9,7 @@ namespace App {
 namespace {
 
 constexpr QSize UsualScreen{384, 216};
-constexpr double GroundAt = 0.86;  // of the height
+constexpr double GroundAt = 0.86;  // as a fraction of the height
 constexpr int CrossArm = 6;
 
 }  // namespace

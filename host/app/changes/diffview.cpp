@@ -10,10 +10,10 @@ namespace App {
 
 namespace {
 
-// Nobody reads more of a comparison, and a view of it would take long to fill.
+// Nobody reads a longer comparison, and filling the view would take long.
 constexpr int MaxComparison = 400000;
 
-/// Lines that come and go.
+/// Colours added and removed lines.
 class DiffColours : public QSyntaxHighlighter
 {
 public:

@@ -32,10 +32,10 @@ using Zorv::ProjectFile;
 
 namespace {
 
-// Longer than a program takes that removes a file to write it anew.
+// Some programs save by deleting a file and writing it anew. Wait longer than that takes.
 constexpr int SettleMilliseconds = 200;
 
-// Larger texts are compared by size and time alone.
+// Larger texts are compared by size and time only.
 constexpr qint64 MaxHashed = 4 * 1024 * 1024;
 
 enum Choice { First, Second, Compare };
@@ -62,7 +62,7 @@ FileStates* FileStates::instance()
 bool FileStates::isOvertaken(const ProjectFile* file) const
 {
     const auto found = m_stamps.constFind(const_cast<ProjectFile*>(file));
-    // A folder in the place of a file is no content that could be lost: it cannot be replaced.
+    // A folder in place of a file cannot be overwritten, so it has no contents to lose.
     const auto* sprites = dynamic_cast<const Family::SpriteCollection*>(file);
     if (QFileInfo(file->fileName()).isDir() != (sprites && sprites->isFolder())) {
         return false;
@@ -77,7 +77,7 @@ bool FileStates::isOvertaken(const ProjectFile* file) const
     return found->hash.isEmpty() || now.hash != found->hash;
 }
 
-/// What stands behind the names of files in the tree, by path.
+/// The text after each file name in the tree, by path.
 QHash<QString, QString> FileStates::marks() const
 {
     QHash<QString, QString> result;
@@ -129,7 +129,7 @@ void FileStates::follow(ProjectFile* file)
     Operations::followWork(file, this, events);
 }
 
-/// Comes with each letter that is typed.
+/// Called for each typed letter, so it must be cheap.
 void FileStates::noteModified(ProjectFile* file)
 {
     const bool isUnsaved = FileInput::isUnsaved(file);
@@ -139,7 +139,7 @@ void FileStates::noteModified(ProjectFile* file)
     }
 }
 
-/// Whoever tells of it may be in the middle of an act.
+/// Deferred: the caller may be in the middle of an operation.
 void FileStates::inputChanged()
 {
     if (m_isInputPending) {
@@ -210,7 +210,7 @@ QList<Zorv::FileWatchObject*> FileStates::fileChanged(const QString&,
 void FileStates::askSoon()
 {
     QTimer::singleShot(0, this, [this] {
-        // The open question is asked again about what comes meanwhile.
+        // The open question's loop also handles what changes meanwhile.
         if (m_isAsking) {
             return;
         }
@@ -241,7 +241,7 @@ void FileStates::askAboutChanged(ProjectFile* file)
     }
 }
 
-/// Collections tell themselves why they cannot be read.
+/// Collections report read errors themselves.
 bool FileStates::read(ProjectFile* file)
 {
     const bool isRead = readAgain(file);
@@ -273,7 +273,8 @@ FileStates::Answer FileStates::askBeforeWriting(ProjectFile* file)
     }
 }
 
-/// Comparing leads back to the question. A file that dies meanwhile is an answer that was given up.
+/// After "Compare" the question is shown again. If the file is destroyed meanwhile, that counts as
+/// cancelled.
 int FileStates::ask(ProjectFile* file, const QString& title, const QString& text,
                     const QStringList& choices)
 {

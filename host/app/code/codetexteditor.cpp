@@ -119,7 +119,7 @@ void CodeTextEditor::currLineChanged(int)
     }
 }
 
-/// By another editor that shares the tree, too.
+/// True also if another editor that shares the tree shows the text.
 bool CodeTextEditor::isShown() const
 {
     return document() && codeWorkspace()->editor()->codeDocument() == document();
@@ -134,13 +134,13 @@ void CodeTextEditor::selectLine()
     const int line = codeWorkspace()->editor()->textCursor().blockNumber();
     const QModelIndex index = m_nodes->indexInLine(unsigned(line));
     const QModelIndexList selected = tree()->selectionModel()->selectedIndexes();
-    // Who has closed the branch of this line wants it closed.
+    // If the user collapsed the branch of this line, keep it collapsed.
     if (index.isValid() ? !selected.contains(index) : !selected.isEmpty()) {
         CodeFileEditor::currLineChanged(line);
     }
 }
 
-/// Nobody sees the nodes of a hidden tree.
+/// A hidden tree is not kept up to date.
 bool CodeTextEditor::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == tree() && event->type() == QEvent::Show) {

@@ -38,7 +38,7 @@ using Zorv::CodeEditor;
 
 namespace {
 
-/// All files that are texts.
+/// All file kinds that are texts.
 constexpr Zorv::FileID TextFiles{~(quint32(Zorv::FileID::Sprites) | Zorv::FileID::Sounds)};
 
 JumpServices jumpServices(const WindowServices& services)
@@ -79,7 +79,7 @@ CodeView::CodeView(const WindowServices& services, QSplitter* page)
             &Zorv::CodeWorkspace::goToLine);
 }
 
-// The editor lets its document and the workspace go while both are there.
+// The editor must release its document and workspace while both still exist.
 CodeView::~CodeView()
 {
     m_tabs->blockSignals(true);
@@ -186,14 +186,14 @@ TextEditor* CodeView::editorInFront() const
     return found == m_editors.end() ? nullptr : *found;
 }
 
-/// The last one that wants it.
+/// The last editor added that wants the document.
 TextEditor* CodeView::editorFor(const FamilyDocument* document) const
 {
     return *std::find_if(m_editors.rbegin(), m_editors.rend(),
                          [document](TextEditor* each) { return each->wants(document); });
 }
 
-/// Into the right editor at once: the other one would show it for a moment.
+/// Chooses the right editor first, or another one would flash up for a moment.
 void CodeView::bringForward(FamilyDocument* document)
 {
     if (document) {
@@ -295,7 +295,7 @@ bool CodeView::hasText() const
     return m_tabs->currentEdit();
 }
 
-/// Also behind another editor.
+/// True also while another editor is in front.
 bool CodeView::hasTexts() const
 {
     return m_tabs->count() > 0;
@@ -321,7 +321,7 @@ void CodeView::closeText()
     }
 }
 
-/// What is discarded leaves the memory too: the project of the text stays open.
+/// Discarded changes must leave memory too, because the project of the text stays open.
 void CodeView::close(FamilyDocument* document)
 {
     if ((document->isModified() || isGone(document)) && !askAboutUnsaved({document})) {

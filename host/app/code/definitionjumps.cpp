@@ -23,7 +23,7 @@ DefinitionJumps::DefinitionJumps(Zorv::CodeEditor* editor, const JumpServices& s
 {
     editor->installEventFilter(this);
     editor->viewport()->installEventFilter(this);
-    // The mark stands at a word that may have gone from there.
+    // The underlined word may have moved.
     const auto clear = [this] { m_mark->clear(); };
     connect(editor->verticalScrollBar(), &QScrollBar::valueChanged, this, clear);
     connect(editor->horizontalScrollBar(), &QScrollBar::valueChanged, this, clear);
@@ -130,7 +130,7 @@ bool DefinitionJumps::eventFilter(QObject* watched, QEvent* event)
     return (isMouse && filterMouse(event)) || QObject::eventFilter(watched, event);
 }
 
-/// True for what is done here, and not the text's.
+/// True if the event was handled here and must not reach the text.
 bool DefinitionJumps::filterMouse(QEvent* event)
 {
     const auto* mouse = static_cast<QMouseEvent*>(event);

@@ -39,7 +39,7 @@ TextPlace placeIn(const CodeEditor* editor)
             cursor.anchor() - anchor.position(), editor->verticalScrollBar()->value()};
 }
 
-/// The nearest place that is there.
+/// The nearest existing position.
 int positionOf(const QTextDocument* document, int line, int column)
 {
     const QTextBlock block = document->findBlockByNumber(line);
@@ -106,7 +106,7 @@ void DocumentTabs::addTab(FamilyDocument* document)
             [this, document] { updateTab(document); });
     connect(document, &Zorv::CodeDocument::closing, this,
             [this, document] { closeDocument(document); });
-    // The bar tells of its first tab before that has its data.
+    // The bar reports its first tab before the tab data is set.
     m_bar->blockSignals(true);
     const int index = m_bar->addTab(QString());
     m_bar->setTabData(index, QVariant::fromValue(static_cast<QObject*>(document)));
@@ -221,7 +221,7 @@ void DocumentTabs::updateTab(const FamilyDocument* document)
     emit stateChanged();
 }
 
-/// The middle button closes the tab on which it was pressed.
+/// The middle button closes the tab on which it was pressed and released.
 bool DocumentTabs::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonRelease) {

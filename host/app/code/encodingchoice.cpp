@@ -56,7 +56,7 @@ void readAgain(FamilyDocument* document, int codec)
 void keepText(FamilyDocument* document, int codec)
 {
     document->setCodecId(codec);
-    // The file on disk is another one now, though no character has changed.
+    // The file on disk differs now, although no character has changed.
     document->setModified(true);
     const QString obstacle = Operations::encodingObstacle(document);
     if (!obstacle.isEmpty()) {

@@ -24,7 +24,7 @@ void LinkMark::showBelow(int line, int start, int end)
     cursor.setPosition(block.position() + end);
     const QRect last = m_editor->cursorRect(cursor);
     const int left = std::min(first.left(), last.left());
-    // A word that goes on in the next row of a wrapped line is marked to the edge.
+    // A word that continues in the next visual row is underlined to the right edge.
     const int right = first.top() == last.top() ? std::max(first.left(), last.left())
                                                 : m_editor->viewport()->width();
     const int thickness = std::max(1, m_editor->fontMetrics().lineWidth());

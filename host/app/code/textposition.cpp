@@ -10,7 +10,7 @@ namespace App {
 
 TextPosition characterAt(const Zorv::CodeEditor* editor, const QPoint& point)
 {
-    // The cursor goes to the nearest gap between two characters.
+    // cursorForPosition() gives the nearest gap between two characters, not the character itself.
     QTextCursor cursor = editor->cursorForPosition(point);
     const QRect gap = editor->cursorRect(cursor);
     int column = cursor.positionInBlock();
@@ -27,7 +27,7 @@ TextPosition characterAt(const Zorv::CodeEditor* editor, const QPoint& point)
 
 Family::FamilyDocument* documentIn(const Zorv::CodeEditor* editor)
 {
-    // Every code document of this program is one of the family.
+    // Every code document of this program is a FamilyDocument.
     return static_cast<Family::FamilyDocument*>(editor->codeDocument());
 }
 

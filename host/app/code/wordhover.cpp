@@ -30,7 +30,7 @@ bool hasMessage(const QTextBlock& block, int column)
                        });
 }
 
-/// What a file holds is shown as it is, tags and all.
+/// Text from files is escaped, so that tags are shown as they are.
 QString tipOf(const Family::WordMeaning& meaning)
 {
     constexpr int mostShown = 300;
@@ -50,7 +50,7 @@ WordHover::WordHover(Zorv::CodeEditor* editor) : QObject(editor), m_editor(edito
 
 bool WordHover::eventFilter(QObject* watched, QEvent* event)
 {
-    // Other events come from an editor that is half gone, too.
+    // Check the event first: other events can arrive while the editor is being destroyed.
     const bool isAsked = event->type() == QEvent::ToolTip && watched == m_editor->viewport();
     return (isAsked && show(static_cast<QHelpEvent*>(event))) ||
            QObject::eventFilter(watched, event);

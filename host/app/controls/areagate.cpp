@@ -28,15 +28,15 @@ void AreaGate::setOffered(bool isOffered)
     apply();
 }
 
-// QAction and QWidget have the property in common, and no class that declares it.
+// QAction and QWidget both have this property, but no common class declares it.
 void AreaGate::apply()
 {
     m_isEnabled = m_isAllowed && m_isOffered && m_active && m_active->isAnyActive(m_areas);
     parent()->setProperty("enabled", m_isEnabled);
 }
 
-// Whoever got an action from here may enable and disable it by hand as well. One that is hidden
-// counts as disabled for Qt, and comes back as it was.
+// The owner of an action may also enable and disable it directly. Hidden actions are ignored: Qt
+// treats them as disabled and restores their state later.
 void AreaGate::heedOwner()
 {
     const auto* action = static_cast<QAction*>(parent());

@@ -27,7 +27,7 @@ namespace App {
 namespace {
 
 const QString OffKey = QStringLiteral("bars_off");
-constexpr int FewestLines = 2;  // that a form shows at least
+constexpr int FewestLines = 2;  // visible lines of a form, at least
 constexpr int FewestCharacters = 12;
 
 QStringList barsThatAreOff()
@@ -51,7 +51,7 @@ const BarRow* rowOf(const QString& name)
     return found == table.end() ? nullptr : &*found;
 }
 
-/// The place of a tool in the order of its bar; behind all of them for one that is not in it.
+/// The index of a tool in the order of its bar; tools not listed come last.
 int rankOf(const QVector<const char*>& order, const QString& name)
 {
     const auto found = std::find_if(order.begin(), order.end(), [&name](const char* each) {
@@ -67,7 +67,7 @@ bool hasForm(const QString& name)
                        [&name](const FormRow& row) { return name == QLatin1String(row.bar); });
 }
 
-/// On a small screen the form is larger than its panel.
+/// Scrolls, because on a small screen the form is larger than its panel.
 class FormArea : public QScrollArea
 {
 public:
@@ -88,7 +88,7 @@ public:
     }
 };
 
-/// A line is seen between two tools alone.
+/// Shows a separator only between two visible tools.
 void showLines(const QToolBar* bar)
 {
     QAction* line = nullptr;
@@ -112,14 +112,14 @@ void showLines(const QToolBar* bar)
 struct ControlBars::Bar
 {
     QString name;
-    const BarRow* row = nullptr;             // null for a bar that the table does not have
-    std::function<QString()> ownTitle = {};  // in place of one of the table
-    QToolBar* tools = nullptr;               // the bar itself, or the one at the top of the panel
+    const BarRow* row = nullptr;             // null: the table does not have the bar
+    std::function<QString()> ownTitle = {};  // used if the table has none
+    QToolBar* tools = nullptr;               // the bar itself, or the one at the panel's top
     QDockWidget* panel = nullptr;            // null for a tool bar
     QVBoxLayout* layout = nullptr;           // of the panel
-    ControlForm* form = nullptr;             // of one with rows, in place of the bar
-    QMap<const QAction*, int> lines = {};    // between the tools, by their place in the order
-    bool wasInFront = false;                 // a panel, when it was hidden last; or comes first
+    ControlForm* form = nullptr;             // for a bar with rows, instead of `tools`
+    QMap<const QAction*, int> lines = {};    // separators, with their place in the order
+    bool wasInFront = false;  // the panel was raised when last hidden, or is to come first
 
     QWidget* host() const
     {
@@ -143,7 +143,7 @@ struct ControlBars::Bar
                ((!row->only || isActive(row->only)) && (!row->without || !isActive(row->without)));
     }
 
-    // A panel that comes back stands where it stood: in front of those in its place, or behind.
+    // A panel that reappears is raised only if it was raised when it was hidden.
     void show(bool isShown)
     {
         if (panel && panel->isHidden() == isShown) {
@@ -176,7 +176,7 @@ struct ControlBars::Bar
         return lines.value(action, App::rankOf(orderOf(name), action->objectName()));
     }
 
-    // In front of what comes later in the order.
+    // Inserts the action before those that come later in the order.
     void insert(QAction* action) const
     {
         const QList<QAction*> all = tools->actions();
@@ -218,7 +218,8 @@ ControlBars::ControlBars(QMainWindow* window, WindowActions* actions)
     d->actions = actions;
     connect(actions->registry()->activeAreas(), &ActiveAreas::changed, this,
             &ControlBars::updateSoon);
-    // The saved state of a window has places for panels that come later, but none for tool bars.
+    // Create all tool bars now: the saved window state can place panels that are created later, but
+    // not tool bars.
     for (const BarRow& row : barTable()) {
         if (row.kind == BarRow::ToolBar) {
             makeBar(QLatin1String(row.name));
@@ -343,7 +344,7 @@ void ControlBars::addSwitch(const Bar* bar)
     d->actions->addSwitch(action, bar->host()->objectName());
 }
 
-/// Whoever closes a panel by its own button has switched it off.
+/// Closing a panel with its own button switches it off.
 bool ControlBars::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Close) {
@@ -442,7 +443,8 @@ bool ControlBars::isGroupEnabled(const QString& name) const
            d->groups.value({QLatin1String(row->menu), QLatin1String(row->group)}, true);
 }
 
-/// Many tools come at once, and those that die are still there when they tell it.
+/// Deferred: many tools are added together, and a destroyed tool is still in its bar when it sends
+/// its signal.
 void ControlBars::updateSoon()
 {
     if (!d->isUpdatePending) {

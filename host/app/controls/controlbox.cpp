@@ -23,12 +23,12 @@ using Zorv::WidgetControl;
 
 namespace {
 
-// The room of a control that asks for none, in characters and in rows.
+// Default size of a control, in characters and rows.
 constexpr int UsualSliderWidth = 16;
 constexpr int UsualRows = 4;
 constexpr int FewestCharacters = 5;  // of a choice
 
-// What a field needs beside its text: frame and arrows.
+// Extra width of a field for frame and arrows, in characters.
 constexpr int FieldExtra = 4;
 
 int characters(const QWidget* widget, int count)
@@ -39,7 +39,7 @@ int characters(const QWidget* widget, int count)
 void setUpView(QAbstractItemView* view, const WidgetControl& control)
 {
     const int rows = control.size() > 0 ? control.size() : UsualRows;
-    // It may be made smaller than it wants to be, but not to nothing.
+    // The view can be smaller than its preferred size, but not vanish.
     view->setMinimumHeight(view->fontMetrics().lineSpacing() * qMin(rows, UsualRows));
     view->setEditTriggers(QAbstractItemView::NoEditTriggers);
     if (control.flags() & WidgetControl::Reorderable) {
@@ -53,7 +53,7 @@ void setUpView(QAbstractItemView* view, const WidgetControl& control)
 QListView* makeList(const WidgetControl& control)
 {
     auto* list = new QListView;
-    // A list may have as many rows as a game has sprites.
+    // Makes long lists fast: a list may have one row per sprite of a game.
     list->setUniformItemSizes(true);
     setUpView(list, control);
     return list;
@@ -84,7 +84,7 @@ QLabel* makeText(const WidgetControl& control)
     return label;
 }
 
-/// Shows "1.5" for "1.500000".
+/// Shows "1.5" instead of "1.500000".
 class RealField : public QDoubleSpinBox
 {
 public:
@@ -113,7 +113,7 @@ Field* makeField(const WidgetControl& control)
     return field;
 }
 
-/// No wider than it has to be: the list that it opens shows its entries whole.
+/// As narrow as possible: the opened list shows the entries in full.
 QComboBox* makeChoice(const WidgetControl& control)
 {
     auto* box = makeField<QComboBox>(control);
@@ -180,7 +180,7 @@ void ControlBox::makeLabel(const WidgetControl& control)
     }
     m_translator = translated->translator();
     m_textId = translated->textId();
-    // A check box has a text itself.
+    // A check box shows its own text.
     if (control.kind() != WidgetControl::CheckBox) {
         m_label = new QLabel;
         m_label->setBuddy(m_field);

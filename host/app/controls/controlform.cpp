@@ -19,7 +19,7 @@ namespace {
 const QSize ButtonSize(16, 16);
 constexpr int Margin = 4;
 constexpr int Spacing = 4;
-constexpr int Columns = 2;  // of fields whose labels are as wide as each other
+constexpr int Columns = 2;  // columns of fields with labels of equal width
 constexpr char RankProperty[] = "rank";
 
 int rankOf(const FormRow& row, const QString& name)
@@ -74,7 +74,7 @@ const FormRow* ControlForm::insert(const QString& name, QWidget* widget, int str
         ++place;
     }
     row->insertWidget(place, widget, stretch);
-    // Buttons alone stand at the left.
+    // A row of buttons only is left-aligned.
     if (row->count() == 1 && stretch == 0) {
         row->addStretch(0);
     }
@@ -96,7 +96,7 @@ QToolButton* ControlForm::addButton(QAction* action)
 void ControlForm::addWidget(const QString& name, QWidget* widget)
 {
     const FormRow* row = insert(name, widget, 1);
-    // A text that has a row of its own may need more than one line.
+    // A text alone in its row may need more than one line.
     const auto* box = qobject_cast<const ControlBox*>(widget);
     auto* text = box ? qobject_cast<QLabel*>(box->field()) : nullptr;
     if (text && row && row->names.size() == 1) {
@@ -111,7 +111,7 @@ bool ControlForm::isEmpty() const
                        [](const Row& row) { return row.layout->isEmpty(); });
 }
 
-/// Sliders stand by themselves, and are as wide as the row.
+/// Sliders are not aligned: they fill their row.
 void ControlForm::align()
 {
     std::array<int, 2 * Columns> widths{};

@@ -8,7 +8,7 @@ namespace App {
 
 namespace {
 
-// Of the texts of the library's tools.
+// Numbers of texts in the library's table.
 enum TextId : unsigned {
     PalettesText = 27,
     AnimationsText = 45,

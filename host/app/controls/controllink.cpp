@@ -17,7 +17,7 @@ using Zorv::WidgetControl;
 
 namespace {
 
-/// Counts up as long as it lives.
+/// Increments a counter for its lifetime.
 class Counting
 {
 public:
@@ -36,7 +36,7 @@ struct Signatures
     const char* set;
 };
 
-// Slots and signals of ControlLink for what a kind carries.
+// The slots and signals of ControlLink for a kind of control.
 Signatures signaturesOf(WidgetControl::Kind kind)
 {
     switch (kind) {
@@ -87,7 +87,7 @@ void ControlLink::connectField(const WidgetControl& control)
                     }
                 });
     } else if (auto* combo = qobject_cast<QComboBox*>(m_field)) {
-        // Not the change of the current row: that comes while the list is being filled as well.
+        // currentIndexChanged() would also be sent while the list is filled.
         connect(combo, QOverload<int>::of(&QComboBox::activated), this,
                 &ControlLink::numberChanged);
     } else if (auto* check = qobject_cast<QCheckBox*>(m_field)) {
@@ -100,7 +100,7 @@ void ControlLink::connectField(const WidgetControl& control)
     }
 }
 
-// The signatures are known at run time only.
+// Connects by text, because the signatures are only known at run time.
 void ControlLink::connectReceiver(const WidgetControl& control)
 {
     const Signatures own = signaturesOf(control.kind());
@@ -112,7 +112,7 @@ void ControlLink::connectReceiver(const WidgetControl& control)
     }
 }
 
-/// The return key chooses a row, as the mouse does.
+/// Return selects a row, like a click.
 bool ControlLink::eventFilter(QObject* watched, QEvent* event)
 {
     const auto* view = qobject_cast<QAbstractItemView*>(watched);

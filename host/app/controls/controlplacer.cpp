@@ -41,7 +41,7 @@ QString barOf(const QString& name)
     return bar ? QString::fromLatin1(bar) : prefixOf(name);
 }
 
-/// That of the tools that are named after the panel, or one of its own.
+/// The bar of the tools named after the panel, or the panel's own.
 QString barOfPanel(const Zorv::ExtraEditor* panel)
 {
     return barOf(panel->name() + QLatin1Char('_'));
@@ -67,8 +67,8 @@ bool waitsForOwner(const WidgetKind& control)
     return control.receiver() && !control.enableSignal().isEmpty();
 }
 
-/// The tool is of no use from then on. It may be in the middle of its work: its receiver can
-/// die in a slot that it called.
+/// Removes a tool with its receiver. The tool may be in the middle of its work, because a receiver
+/// can be destroyed in a slot that the tool called.
 template <typename Tool>
 void goWith(QObject* receiver, Tool* tool)
 {
@@ -178,7 +178,7 @@ QToolButton* ControlPlacer::addButton(const QString& name, const Zorv::ToolButto
 {
     QAction* action = control.action();
     ActionRegistry* registry = m_actions->registry();
-    // An action that its editor made itself.
+    // The editor made this action itself.
     if (registry->action(action->objectName()) != action) {
         registry->add(action, {name, {}, {}, action->shortcuts()});
     }
@@ -214,7 +214,8 @@ QWidget* ControlPlacer::addWidget(const QString& name, const WidgetKind& control
     return box->field();
 }
 
-/// A check box is an action as well: it has a key, stands in a menu, and can be looked for.
+/// A check box also gets an action, so that it has a shortcut, a menu entry, and is found by the
+/// action search.
 void ControlPlacer::addSwitch(const QString& name, const Zorv::WidgetControl& control,
                               QCheckBox* check)
 {
@@ -277,7 +278,7 @@ void ControlPlacer::setMenuEnabled(const char* menu, const char* group, bool isE
     }
     m_actions->showMenu(menu, isAny);
     m_bars->setGroupEnabled(QLatin1String(menu), QLatin1String(group), isEnabled);
-    // Keys work in a hidden menu too.
+    // Shortcuts would also work in a hidden menu, so the tools are disabled.
     for (auto each = m_gates.cbegin(); each != m_gates.cend(); ++each) {
         if (*each) {
             (*each)->setOffered(m_bars->isGroupEnabled(barOf(each.key())));
@@ -290,7 +291,7 @@ void ControlPlacer::updateVisibility()
     m_bars->updateVisibility();
 }
 
-/// Forms align the labels of boxes, as wide as these are by then.
+/// First the boxes, then the forms: they align labels by their new width.
 void ControlPlacer::retranslate()
 {
     for (ControlBox* box : qAsConst(m_boxes)) {

@@ -27,7 +27,7 @@ ProgressDialog::~ProgressDialog()
     delete m_dialog;
 }
 
-// Qt processes events here once the dialog is shown, and it may be gone then.
+// setValue() processes events once the dialog is shown, and may thereby destroy it.
 void ProgressDialog::update(int value, int maximum)
 {
     if (m_dialog && maximum > 0) {

@@ -10,7 +10,7 @@ namespace App {
 
 namespace {
 
-// More choices than these are easier found in a list.
+// More choices than this are easier to find in a list.
 constexpr int MaxButtons = 3;
 
 QWidget* mainWindow()

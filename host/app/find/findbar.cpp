@@ -31,7 +31,7 @@ namespace {
 struct ButtonText
 {
     const char* name;
-    const char* sign;  ///< what stands on a button without a picture
+    const char* sign;  ///< text of a button without a picture
     const char* text;
 };
 
@@ -228,7 +228,7 @@ QString FindBar::selectedText() const
     return text.contains(QChar::ParagraphSeparator) ? QString() : text;
 }
 
-/// Looks for a text as it stands from now on, from the next step on.
+/// Searches for this text literally from now on, without moving yet.
 void FindBar::takeText(const QString& text)
 {
     {
@@ -257,7 +257,7 @@ void FindBar::open(bool withReplace)
     if (!m_editor->codeDocument()) {
         return;
     }
-    // What an expression has found is not the expression.
+    // A text found by an expression is not the expression to search for.
     const QString selected = m_search->isMatchSelected() ? QString() : selectedText();
     bringUp(withReplace);
     if (!selected.isEmpty() && !isAncestorOf(QApplication::focusWidget())) {

@@ -18,7 +18,8 @@ FindField::FindField(const QString& setting, QWidget* parent)
 {
     setEditable(true);
     setInsertPolicy(QComboBox::NoInsert);
-    // A word of the history would be written behind what is typed, and looked for.
+    // The completer would append a text from the history while typing, and it would be searched
+    // for.
     setCompleter(nullptr);
     setMinimumContentsLength(Width);
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);

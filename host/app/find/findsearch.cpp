@@ -14,8 +14,8 @@ using Place = MatchCounter::Place;
 
 namespace {
 
-// After edits matches are counted at rest, and the copy of the text that it takes costs at most
-// a tenth of the time.
+// After edits, wait before counting again. The wait is at least ten times what copying the text
+// takes, so that copies cost at most a tenth of the time.
 constexpr int ShortestWait = 300;  // milliseconds
 constexpr int WaitPerCopy = 10;
 
@@ -180,8 +180,8 @@ void FindSearch::previous()
     emit stateChanged();
 }
 
-/// Matches that are counted do not overlap: a search backward would find the last letter of a
-/// word for an expression that means the word.
+/// Counted matches do not overlap. A plain backward search would find only the last letter of a
+/// word for an expression that matches the whole word.
 Place FindSearch::placeBefore(int start)
 {
     if (!m_counter.isStarted()) {
@@ -205,7 +205,7 @@ void FindSearch::replaceOne(const QString& with)
                                            : Zorv::CodeFind::Match();
         if (match.hasMatch()) {
             m_pattern.find().replaceSelection(m_editor, match, m_pattern.replacement(with));
-            // What stands right behind is another match only if it has a length.
+            // A match directly after the replacement counts only if it is not empty.
             m_shown = length == 0 ? Place{m_editor->textCursor().position(), 0} : Nowhere;
         }
     }

@@ -4,6 +4,10 @@
 
 #include <algorithm>
 
+// A zero-interval timer runs the search in slices of a few milliseconds and stores the matches in
+// text order, so that lookups are binary searches. `lastBefore()` needs the matches before a place
+// at once, and counts up to there without slices.
+
 namespace App {
 
 namespace {

@@ -48,7 +48,7 @@ QString paragraph(const QString& text, const QStringList& paths)
     return paths.isEmpty() ? QString() : text + QLatin1String("\n") + namesOf(paths);
 }
 
-/// With "/" at its end; a link leads into the folder that it names.
+/// The absolute path with links resolved, and with a trailing "/".
 QString realPath(const QString& folder)
 {
     const QString real = QDir(folder).canonicalPath();
@@ -106,8 +106,8 @@ void GameCommands::restoreBackup()
         !askAboutUnsaved(m_services.session->modifiedFiles())) {
         return;
     }
-    // What is discarded leaves the memory too, or the backup of what is replaced would hold it
-    // instead of the files.
+    // Discarded changes must leave memory too, or the backup of the replaced files would contain
+    // them instead of the files' contents.
     const QList<Zorv::ProjectFile*> discarded = m_services.session->modifiedFiles();
     for (Zorv::ProjectFile* file : discarded) {
         if (QFileInfo::exists(file->fileName())) {
@@ -152,8 +152,8 @@ void GameCommands::refresh()
     m_services.parts->gameChanged();
 }
 
-/// A loose project in the folder itself has the new name of its main file, with a
-/// suffix, anything else a folder with "/" at its end. Empty if the person gives up.
+/// For a project file directly in the folder: the new name of its main file, with suffix. Otherwise
+/// a folder with a trailing "/". Empty if the user cancels.
 QString GameCommands::askForPlace(bool* isFile) const
 {
     const FamilyParentProject* game = m_services.session->game();
@@ -223,9 +223,8 @@ bool GameCommands::settleEncodings() const
     return true;
 }
 
-/// One open project alone would be taken out of its place in the folder, its main
-/// file away from the others. A second one, without a file, keeps it there; gives
-/// what could not be written.
+/// With only one open project, saving would move its main file away from the others. A second
+/// project without a file prevents that. Returns what could not be written.
 QStringList GameCommands::saveFolderAs(const QString& folder) const
 {
     FamilyParentProject* game = m_services.session->game();
@@ -269,7 +268,7 @@ void GameCommands::saveAllAs()
     const QString failed = paragraph(tr("These files could not be written:"), failedFiles);
     if (hasMoved) {
         RecentFolders::add(game->absolutePath());
-        // What the tree had open are paths of the old place.
+        // The tree's expanded rows are paths of the old place.
         m_tree->showGame(game);
         if (const FamilyProject* project = m_services.parts->project()) {
             m_tree->reveal(project->fileName());

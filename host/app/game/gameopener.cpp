@@ -30,8 +30,7 @@ using Family::FamilyProject;
 
 namespace {
 
-/// The pointer that tells to wait, as long as the object lives. A folder may be
-/// large, and far away.
+/// Shows the wait cursor for its lifetime: a folder may be large or on a network.
 class WaitCursor
 {
 public:
@@ -67,7 +66,7 @@ bool GameOpener::hasGame() const
     return m_services.session->game();
 }
 
-/// The open project of the current row while the tree has the keyboard, else that in front.
+/// The open project of the current row if the tree has the focus, else the current project.
 FamilyProject* GameOpener::project() const
 {
     if (!m_tree->hasFocus()) {
@@ -141,7 +140,7 @@ bool GameOpener::openPath(const QString& path)
     const QStringList files = info.isFile() ? QStringList(info.absoluteFilePath())
                               : isRoot      ? QStringList()
                                             : FamilyParentProject::mainFiles(path);
-    // The folder of one project stands for it.
+    // A folder with one project stands for that project.
     return openFolder(root) && (files.size() != 1 || openFile(files.first()));
 }
 
@@ -154,7 +153,7 @@ bool GameOpener::openFolder(const QString& folder)
     bool isOpen = false;
     {
         const WaitCursor cursor;
-        // In front of the reading: what a killed program has left half done.
+        // Before reading: finish or undo what a killed program left half done.
         const QStringList settled = Operations::settleChanges(QFileInfo(folder).absoluteFilePath());
         if (!settled.isEmpty()) {
             Zorv::Dialogs::instance()->warning(tr("Open game folder"),
@@ -190,7 +189,7 @@ bool GameOpener::openFile(const QString& fileName)
     return true;
 }
 
-/// A file of sprites has no text: its editor shows it. False if no open project has it.
+/// Sprite files have no text: the sprite editor shows them. False if no open project has the file.
 bool GameOpener::showSprites(const QString& fileName)
 {
     for (FamilyProject* project : m_services.session->projects()) {

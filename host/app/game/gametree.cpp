@@ -30,7 +30,7 @@ class PathDelegate final : public QStyledItemDelegate
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
-    /// What is wrong with a file, or in a folder, stands at the end of its row.
+    /// Draws the problems of a file or folder at the end of its row.
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override
     {
@@ -86,7 +86,7 @@ void GameTree::showGame(Family::FamilyParentProject* game)
     m_expanded.clear();
     m_current.clear();
     if (game) {
-        // Before the view's own connections, which change the current row.
+        // Connect before the view does, because its own handlers change the current row.
         connect(game, &QAbstractItemModel::rowsAboutToBeRemoved, this, &GameTree::restoreSoon);
         connect(game, &QAbstractItemModel::rowsAboutToBeInserted, this, &GameTree::restoreSoon);
     }
@@ -101,7 +101,7 @@ void GameTree::showGame(Family::FamilyParentProject* game)
                     m_services.parts->updateSoon();
                 }
             });
-    // The folders of characters and stages, and those of the projects in them.
+    // Expand the folders of characters and stages, and the project folders in them.
     for (int i = 0; i < game->rowCount(); ++i) {
         const QModelIndex folder = game->index(i, 0);
         expand(folder);
@@ -122,7 +122,7 @@ QString GameTree::pathOf(const QModelIndex& index) const
     if (!path) {
         return {};
     }
-    // A main file of a closed project gives the path of its folder.
+    // For the main file of a closed project, absolutePath() is its folder.
     const bool isMainFile = path->isProject() && !path->isDirectory();
     return isMainFile ? path->absolutePath() + path->pathName() : path->absolutePath();
 }
@@ -151,8 +151,8 @@ void GameTree::request(const QModelIndex& index)
     if (!path->isDirectory()) {
         m_services.jumps->openFile(QDir::cleanPath(pathOf(index)));
     } else if (path->isProject() && !m_game->hasChildren(index)) {
-        // The folder of a closed project shows nothing and stands for it. It is
-        // opened when the double click is over, which would close it again.
+        // The folder of a closed project has no rows and represents it. Open it later: the double
+        // click would collapse the row again.
         QTimer::singleShot(0, this, [this, folder = QDir(path->absolutePath())] {
             const QStringList names = folder.entryList(Family::mainFileFilters(), QDir::Files);
             for (const QString& name : names) {
@@ -175,7 +175,7 @@ void GameTree::restore()
     if (!m_isChanging) {
         return;
     }
-    // Outer folders first: the paths of what lies in them are longer.
+    // Outer folders first; sorting works because the paths in them are longer.
     QStringList paths(m_expanded.begin(), m_expanded.end());
     paths.sort();
     for (const QString& path : qAsConst(paths)) {

@@ -10,7 +10,7 @@ namespace App {
 struct WindowServices;
 
 /// The tree of a game: its folders, projects and files. Rows that the user expanded stay expanded
-/// when the model is reset.
+/// when the model replaces its rows.
 class GameTree : public QTreeView, public Part
 {
     Q_OBJECT
@@ -41,7 +41,7 @@ private:
     Family::FamilyParentProject* m_game = nullptr;
     QSet<QString> m_expanded;  ///< paths of the expanded rows
     QString m_current;
-    bool m_isChanging = false;  ///< the model is being reset
+    bool m_isChanging = false;  ///< the model is replacing its rows
 };
 
 }  // namespace App

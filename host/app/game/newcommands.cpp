@@ -46,7 +46,7 @@ bool NewCommands::hasGame() const
     return m_services.session->game();
 }
 
-/// Beside the game that is open, or among the person's documents.
+/// Suggests the folder of the open game, or the user's documents.
 void NewCommands::newGame()
 {
     const QString open = m_services.session->folder();
@@ -80,14 +80,14 @@ void NewCommands::newProject(NewKind kind)
         return;
     }
     NewDialog dialog(kind, QDir::cleanPath(game->absolutePath()), {}, m_services.window);
-    // Another game may be in front behind the dialog.
+    // The game may have changed while the dialog was open.
     if (dialog.exec() == QDialog::Accepted && game && game == m_services.session->game()) {
         m_services.jumps->openFile(dialog.path());
         m_services.parts->gameChanged();
     }
 }
 
-/// The folder of the current row while the tree has the keyboard; else empty.
+/// The folder of the current row if the tree has the focus; else empty.
 QString NewCommands::folderOfTree() const
 {
     const QString path = m_tree->hasFocus() ? m_tree->pathOf(m_tree->currentIndex()) : QString();
@@ -95,7 +95,7 @@ QString NewCommands::folderOfTree() const
                                                      : QFileInfo(path).absolutePath();
 }
 
-/// The open project in whose folder another one lies; null if there is none.
+/// The open project whose folder contains this one; null if there is none.
 FamilyProject* NewCommands::projectOf(const QString& folder) const
 {
     for (FamilyProject* project : m_services.session->projects()) {

@@ -29,7 +29,7 @@ struct KindRow
 {
     NewKind kind;
     const char* title;
-    const char* name;  ///< the first one that is offered
+    const char* name;  ///< default name
 };
 
 constexpr KindRow kinds[] = {
@@ -149,7 +149,7 @@ void NewDialog::addPlace(QFormLayout* layout)
     });
 }
 
-/// A choice of one is none.
+/// Hides the choice if there is only one template.
 void NewDialog::addTemplates(QFormLayout* layout)
 {
     const QStringList names =

@@ -22,7 +22,7 @@ namespace {
 
 enum BackupColumn { NameColumn, TimeColumn, CountColumn, SizeColumn };
 
-// A list of more is nothing to read.
+// A longer list would not be readable.
 constexpr int MaxFiles = 2000;
 
 QString changeText(RestoredFile::Change change)

@@ -15,7 +15,7 @@ QFont& inUse()
     return font;
 }
 
-/// The font of the document, whatever it is, with weight and slant of the token.
+/// Tokens keep only weight and slant, so that they follow the document's font.
 void takeFontsOffTokens()
 {
     for (int i = 0; i < Zorv::CodeParserSyntax::TokenTypeCount; ++i) {

@@ -21,7 +21,7 @@ public:
     {
         if (event->type() == QEvent::Paint) {
             watched->removeEventFilter(this);
-            // The rest of the frame is painted in this turn.
+            // The rest of the frame is still painted in this turn of the event loop.
             QTimer::singleShot(0, this, [this] {
                 m_work();
                 deleteLater();

@@ -30,8 +30,8 @@ QString fileOf(const QString& file, const char* mark)
     return name.insert(name.lastIndexOf(QLatin1Char('.')), QLatin1String(mark));
 }
 
-/// Reads a picture when it is drawn first: a window has many more icons than it shows, and
-/// Qt's own engine reads each of their pictures at once.
+/// Reads a picture when it is first drawn. A window has many more icons than it shows, and Qt's own
+/// engine reads all their pictures at once.
 class PictureEngine final : public QIconEngine
 {
 public:
@@ -77,7 +77,7 @@ public:
     }
 
 private:
-    /// The smallest that is large enough.
+    /// The smallest picture that is large enough.
     QPixmap pictureFor(int side)
     {
         const auto* scale = std::find_if(std::begin(scales), std::end(scales) - 1,
@@ -85,7 +85,8 @@ private:
         QPixmap& picture = m_pictures[scale->size];
         if (picture.isNull()) {
             picture.load(fileOf(m_file, scale->mark));
-            // The name of the largest says that it is one of half its size.
+            // Qt derives the ratio 2 from "@2x" in the file name; the size is in screen pixels
+            // here.
             picture.setDevicePixelRatio(1);
         }
         return picture;

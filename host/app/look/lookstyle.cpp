@@ -9,10 +9,11 @@ namespace App {
 
 namespace {
 
-constexpr int IconSize = 16;  // twice as many pixels on a screen at 2x
+constexpr int IconSize = 16;  // logical pixels; twice as many on a screen at 2x
 constexpr int OutlineAlpha = 128;
 
-// An empty box is darker than its ground, which does not show where that is dark.
+// Fusion draws the outline of an empty check box darker than the background, which is invisible in
+// the dark theme.
 void drawOutline(const QStyleOption* option, QPainter* painter)
 {
     QColor colour = option->palette.color(QPalette::WindowText);

@@ -47,7 +47,7 @@ bool PlainTexts::eventFilter(QObject* watched, QEvent* event)
     if (event->type() == QEvent::ToolTip && watched->isWidgetType()) {
         return showPlain(static_cast<QWidget*>(watched), static_cast<QHelpEvent*>(event));
     }
-    // What shows a tool tip is a label, too.
+    // The widget that shows a tool tip is also a QLabel.
     auto* label = event->type() == QEvent::Show ? qobject_cast<QLabel*>(watched) : nullptr;
     if (label && label->textFormat() == Qt::AutoText && !label->inherits("QTipLabel")) {
         label->setTextFormat(Qt::PlainText);

@@ -45,7 +45,7 @@ constexpr RoleRow roles[] = {
     {QPalette::Shadow, {0xff6b7078, 0xff0d0e10}},
 };
 
-// What is disabled is to be seen, but stands back.
+// Disabled text must be visible, but less prominent.
 constexpr RoleRow disabledRoles[] = {
     {QPalette::WindowText, {0xff868c96, 0xff7c838e}},
     {QPalette::Text, {0xff868c96, 0xff7c838e}},
@@ -104,7 +104,7 @@ void colourTokens(Theme::Kind kind)
     }
 }
 
-/// As it was before the first theme was put on.
+/// Cached, because the palette no longer shows the system's theme once a theme was applied.
 Theme::Kind kindOfSystem()
 {
     static const Theme::Kind kind = [] {

@@ -43,7 +43,7 @@ struct Usage
     QString error;
 };
 
-/// An option with a value.
+/// A command line option with a value.
 struct Option
 {
     const char* name;
@@ -103,7 +103,7 @@ int drawPicture(const Usage& usage)
     host.setOption(QStringLiteral("theme"), usage.theme);
     host.setOption(QStringLiteral("language"), usage.language);
     applyLook();
-    // Nobody is there to answer, or to be told what the picture lacks.
+    // Nobody can answer dialogs here, or be told what the picture lacks.
     const Cli::CommandDialogs dialogs;
     QString dataError;
     Operations::prepareFamilyData(&dataError);

@@ -30,7 +30,7 @@ namespace App {
 
 namespace {
 
-/// Where a menu that is asked for by keys opens.
+/// Where a context menu opens when requested by keyboard.
 QPoint placeForKeys(const QWidget* widget)
 {
     if (const auto* view = qobject_cast<const QAbstractItemView*>(widget)) {
@@ -63,7 +63,7 @@ ContextMenus::ContextMenus(MainWindow* window) : QObject(window), m_window(windo
     add(window->textEditor()->tree(),
         {"anim_add", nullptr, "code_definition", "code_references", "code_rename", nullptr,
          "code_fold", "code_fold_all", "code_unfold_all"});
-    // With the actions that their commands have given them.
+    // These use the actions added by their commands.
     add(window->spritePanel()->list(), {});
     add(window->soundPanel()->list(), {});
     add(window->tabs()->bar(),
@@ -98,7 +98,7 @@ bool ContextMenus::eventFilter(QObject* watched, QEvent* event)
     return false;
 }
 
-/// The right button ends the drawing of boxes, and no menu comes then.
+/// The right button ends drawing boxes; it must not open a menu then.
 bool ContextMenus::open(const Place& place, const QPoint* pointer)
 {
     const StageCommands* stage = m_window->stage();
@@ -114,7 +114,7 @@ bool ContextMenus::open(const Place& place, const QPoint* pointer)
     const int line =
         place.widget == text->tree() ? text->nodes()->lineNo(text->tree()->currentIndex()) : -1;
     if (line >= 0) {
-        // The right button leaves the cursor where it was, and the menu is for the row.
+        // A right click does not move the cursor, but the menu is for the clicked row.
         m_window->moveCursor(line);
     }
     auto* menu = new QMenu(place.widget);
@@ -125,7 +125,7 @@ bool ContextMenus::open(const Place& place, const QPoint* pointer)
             menu->addAction(action);
         }
     }
-    // What the widget has itself stands behind.
+    // The widget's own actions come last.
     menu->addSeparator();
     for (QAction* own : place.widget->actions()) {
         if (!menu->actions().contains(own)) {

@@ -87,12 +87,12 @@ using Zorv::FileInput;
 
 namespace {
 
-// Where Qt shows that there is something to save.
+// Qt's placeholder in a title for "modified".
 const QLatin1String Modified("[*]");
 
 const QString SeenKey = QStringLiteral("panels_seen");
 
-// Shares of the layers and the palette in the side of the window, when both are seen first.
+// Initial heights of these panels when they are first shown together.
 constexpr int RoomOfLayers = 200;
 constexpr int RoomOfPalette = 300;
 
@@ -116,7 +116,8 @@ const PanelTitle panelTitles[] = {
     {"find_files", QT_TRANSLATE_NOOP("App::MainWindow", "Find in files")},
 };
 
-/// Qt names these buttons once, all alike, in the language of the moment.
+/// Qt gives these buttons the same accessible name in all docks, and only once, in the current
+/// language.
 void nameButton(const QDockWidget* dock, const char* button, const QString& name)
 {
     if (auto* found = dock->findChild<QAbstractButton*>(QLatin1String(button))) {
@@ -209,7 +210,7 @@ void MainWindow::publishTools()
     m_services.parts->begin();
     m_actions->place((new RecentMenu(this, this))->menuAction(), "file.open");
     m_controls->fillBars();
-    // Both move what is selected up and down, each while it has the focus.
+    // Both pairs share their shortcuts, so each only works while its widget has the focus.
     keepKeysTo(m_code->editor(), {actionByName("code_line_up"), actionByName("code_line_down")});
     keepKeysTo(m_animations->list(), {actionByName("org_up"), actionByName("org_down")});
     new ContextMenus(this);
@@ -218,7 +219,7 @@ void MainWindow::publishTools()
     m_controls->updateVisibility();
 }
 
-/// What belongs to a frame stands in front of the nodes of its text.
+/// Raises the frame panels above the node tree.
 void MainWindow::arrangeTools()
 {
     auto* nodes = findChild<QDockWidget*>(QStringLiteral("nodes"));
@@ -245,8 +246,8 @@ void MainWindow::arrangeTools()
     giveRoomAtFirst(references, {references}, {RoomOfReferences});
 }
 
-/// Panels that were hidden have no height to be changed until they are there. From then on it is
-/// the person's.
+/// Hidden panels have no height to set, so wait until they are shown. After that the height is the
+/// user's.
 void MainWindow::giveRoomAtFirst(QDockWidget* comes, const QList<QDockWidget*>& docks,
                                  const QList<int>& heights)
 {
@@ -260,7 +261,8 @@ void MainWindow::giveRoomAtFirst(QDockWidget* comes, const QList<QDockWidget*>& 
     });
 }
 
-/// In the order in which the keyboard goes round, and in which sections of menus are filled.
+/// The order in which the panel-switching key visits the parts, and in which menu sections are
+/// filled.
 void MainWindow::addParts()
 {
     for (Part* part : std::initializer_list<Part*>{
@@ -273,7 +275,7 @@ void MainWindow::addParts()
     }
 }
 
-// Views go before what they show.
+// Destroy views before their models.
 MainWindow::~MainWindow()
 {
     m_services.parts->end();
@@ -289,7 +291,7 @@ void MainWindow::makeDocks()
 {
     setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
-    m_controls->page("tool");  // beside the tools, above the other panels
+    m_controls->page("tool");  // created first: beside the tools, above the other panels
     addDock(m_gameTree, "projects", Qt::LeftDockWidgetArea);
     QDockWidget* messages = addDock(m_messagePanel, "messages", Qt::BottomDockWidgetArea);
     addDock(m_sprites->panel(), "sprites", Qt::LeftDockWidgetArea);
@@ -311,7 +313,7 @@ QDockWidget* MainWindow::addDock(QWidget* widget, const char* name, Qt::DockWidg
     return dock;
 }
 
-/// What goes on between two parts, which do not know each other.
+/// Connections between parts that do not know each other.
 void MainWindow::connectParts()
 {
     PartList* parts = m_services.parts;
@@ -331,7 +333,7 @@ void MainWindow::connectParts()
     m_paint->editor()->takeDropsOn(m_sprites->panel());
     connect(m_stage, &StageCommands::colourPicked, m_palettes->editor(),
             &FamilyPaletteEditor::selectColour);
-    // What is made when it is shown first is shown as the rest is.
+    // Render widgets are created on first show; then they need the colour simulation too.
     const SightSwitches* sight = m_palettes->sight();
     connect(m_paint->editor()->spriteWorkspace(), &Zorv::SpriteWorkspace::renderWidgetMade, sight,
             &SightSwitches::apply);
@@ -341,12 +343,12 @@ void MainWindow::connectParts()
             [this](int row) { m_paint->showSprite(m_sprites->panel()->sprites(), row); });
     connect(m_thumbnails->panel(), &Zorv::ThumbnailsEditor::spriteActivated, m_paint,
             [this](int row) { m_paint->showSprite(m_sprites->panel()->sprites(), row); });
-    // Rows change while lines are being parsed.
+    // Queued, because rows change while lines are being parsed.
     const Zorv::OrganizerEditor* organizer = m_animations->organizer();
     connect(
         organizer, &Zorv::OrganizerEditor::currentRowChanged, m_stage,
         [this, organizer] {
-            // The text leads both, unless the person is in the list.
+            // The text controls both lists, unless the user is in the list.
             if (m_animations->hasList() && m_animations->list() &&
                 m_animations->list()->hasFocus()) {
                 m_stage->showAnimation(organizer->currentRow());
@@ -438,7 +440,7 @@ void MainWindow::retranslate()
     updateTitle();
 }
 
-/// Texts keep the colours that they were given, and their messages the language.
+/// Parses all texts again: their colours and messages keep the old theme and language.
 void MainWindow::parseAgain()
 {
     for (const FamilyProject* project : session()->projects()) {
