@@ -30,8 +30,8 @@ const QString TextsKey = QStringLiteral("open_texts");
 const QString FrontKey = QStringLiteral("front_text");
 
 constexpr QSize UsualSize(1280, 800);
-constexpr int RoomOfAllPanels = 450;  // pixels; below that some are hidden at first
-constexpr int PanelsVersion = 6;      // raised when panels come or go
+constexpr int RoomOfAllPanels = 450;  // pixels; with less, some panels are hidden at first
+constexpr int PanelsVersion = 6;      // increase when panels are added or removed
 
 QVariant setting(const QString& key)
 {
@@ -43,7 +43,7 @@ void store(const QString& key, const QVariant& value)
     Zorv::Interface::instance()->setOption(key, value);
 }
 
-/// What the screen has for a window without its frame.
+/// The space on the screen for a window without its frame.
 QSize roomOf(const QWidget* window)
 {
     const int title = window->style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, window);
@@ -51,14 +51,14 @@ QSize roomOf(const QWidget* window)
     return window->screen()->availableSize() - QSize(2 * border, title + border);
 }
 
-/// Of the panels at the first start; the middle has the rest.
+/// Sizes of the panels at the first start; the middle gets the rest.
 void giveRoom(QMainWindow* window)
 {
     const auto dock = [window](const char* name) {
         return window->findChild<QDockWidget*>(QLatin1String(name));
     };
     window->layout()->invalidate();
-    window->layout()->activate();  // at the size that it was given
+    window->layout()->activate();  // at its new size
     window->resizeDocks({dock("projects"), dock("nodes")}, {240, 310}, Qt::Horizontal);
     window->resizeDocks({dock("projects"), dock("sprites")}, {280, 480}, Qt::Vertical);
     window->resizeDocks({dock("nodes"), dock("organizer")}, {420, 280}, Qt::Vertical);
@@ -124,7 +124,7 @@ void WindowState::restoreShape(MainWindow* window)
             window->controls()->switchOff("thumbnails");
             window->controls()->updateVisibility();
         }
-        window->layout()->activate();  // what was hidden needs no room
+        window->layout()->activate();  // hidden panels need no space
         window->resize(UsualSize.boundedTo(room));
         giveRoom(window);
     }

@@ -123,14 +123,14 @@ bool MessagePanel::viewportEvent(QEvent* event)
     return true;
 }
 
-/// A file that is not open is opened, with its project.
+/// Opens the file and its project if necessary.
 void MessagePanel::request(const QModelIndex& index)
 {
     const Family::Problem* problem = problems()->problemAt(index.row());
     if (!problem) {
         return;
     }
-    // Opening a file takes time in which the list can change.
+    // Copied, because the list can change while a file is opened.
     const Family::Problem place = *problem;
     if (!m_problems->documentOf(place.file) &&
         !m_services.jumps->openFile(m_problems->pathOf(place.file))) {

@@ -15,7 +15,7 @@ namespace App {
 namespace {
 
 const QString HeightKey = QStringLiteral("messages_height");
-constexpr int UsualHeight = 100;  // with the title
+constexpr int UsualHeight = 100;  // including the title
 
 }  // namespace
 

@@ -58,7 +58,8 @@ void ProblemModel::setProblems(const QString& file, const Problems& problems)
     }
 }
 
-/// What is equal at both ends stays, what has another in its place changes, the rest comes or goes.
+/// Keeps the equal rows at both ends, changes rows in the middle that have a counterpart, and
+/// inserts or removes the rest.
 void ProblemModel::replace(File* file, int first, const Problems& problems)
 {
     const Problems& old = file->problems;
@@ -70,7 +71,7 @@ void ProblemModel::replace(File* file, int first, const Problems& problems)
            old[old.size() - 1 - tail] == problems[problems.size() - 1 - tail]) {
         ++tail;
     }
-    const int kept = most - tail;  // rows of which each has one in its place
+    const int kept = most - tail;  // equal rows at the start, and rows to change
     const int oldEnd = old.size() - tail;
     const int newEnd = problems.size() - tail;
     if (oldEnd > kept) {

@@ -82,7 +82,7 @@ void ProblemWatch::showProject(FamilyProject* project)
     m_check->prefer(project ? QStringList(project->fileName()) : QStringList());
 }
 
-/// Its texts die, and its files count again.
+/// The project's texts are destroyed; from now on their files count.
 void ProblemWatch::forgetProject(FamilyProject* project)
 {
     const QList<FamilyDocument*> documents = project->documents();
@@ -98,7 +98,7 @@ void ProblemWatch::gameChanged()
     m_check->look();
 }
 
-/// Files come to a project, and get other names, without a word.
+/// There is no signal when a project gets new files or renames some.
 void ProblemWatch::updateState()
 {
     watchAll();
@@ -200,8 +200,8 @@ void ProblemWatch::handOver()
     }
 }
 
-/// Several projects can have a document of a file each: the one with changes counts, and without
-/// changes the file.
+/// Several projects can each have a document of the same file. The modified one counts; without
+/// one, the file itself.
 void ProblemWatch::handOverText(const QString& path)
 {
     std::shared_ptr<const Family::SourceText> text;
@@ -248,7 +248,7 @@ bool ProblemWatch::findUses(const Operations::Removal& what, QStringList* places
     return true;
 }
 
-/// While nothing is checked, the files on the disk tell who uses it.
+/// While checking is off, the files on disk are searched for uses.
 bool ProblemWatch::mayRemove(const std::function<Operations::Removal()>& removal)
 {
     const bool isSettled = settle();
@@ -285,7 +285,7 @@ void ProblemWatch::takeProblems(const QStringList& files)
     emit summaryChanged();
 }
 
-/// How bad it is with each file, and with what lies in each folder.
+/// Shows the worst problem level of each file, and for each folder that of its contents.
 void ProblemWatch::showInTree()
 {
     if (!m_game) {

@@ -73,7 +73,7 @@ Operations::FixSource QuickFixes::source() const
             [this](const QString& path) { return textOf(path); }};
 }
 
-/// Nothing before all is checked: what is known of the texts would not be that of the texts.
+/// Offers nothing before everything is checked: the index could be out of date.
 QVector<Fix> QuickFixes::fixesOf(const Family::Problems& problems) const
 {
     const Operations::FixSource known = source();
@@ -96,7 +96,7 @@ QVector<Fix> QuickFixes::fixesOfMessage() const
     return isThere ? fixesOf({problem}) : QVector<Fix>();
 }
 
-/// Those of the problem under the cursor come first.
+/// Fixes for the problem under the cursor come first.
 QVector<Fix> QuickFixes::fixesOfLine() const
 {
     const FamilyDocument* document = m_services.parts->document();
@@ -226,7 +226,7 @@ void QuickFixes::apply(const Fix& fix)
     m_problems->updateState();
 }
 
-/// A file that is not open is opened, with its project.
+/// Opens the file and its project if necessary.
 void QuickFixes::applyToText(const Fix& fix)
 {
     const QString name = m_problems->nameOf(fix.path);

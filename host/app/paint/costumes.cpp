@@ -30,7 +30,7 @@ namespace {
 
 constexpr int ColourCount = 256;
 
-/// Entries that the palette lacks are opaque black, as on the canvas.
+/// Missing palette entries are opaque black, as on the canvas.
 QVector<QRgb> tableOf(const Palette& palette)
 {
     Zorv::RGBA colours[ColourCount];
@@ -43,7 +43,7 @@ QVector<QRgb> tableOf(const Palette& palette)
     return table;
 }
 
-/// Of a sprite that has one; none for a sprite of true colour.
+/// The palettes to show for an indexed sprite; none for a true-colour sprite.
 QVector<Palette*> palettesFor(const SpriteEditor& editor)
 {
     QVector<Palette*> shown;
@@ -75,7 +75,7 @@ Costumes::Costumes(SpriteEditor* editor, QObject* parent)
     connect(m_panel, &PalettePreviews::chosen, this, &Costumes::choose);
 }
 
-// The canvas goes with the editor.
+// The canvas is destroyed with the editor.
 Costumes::~Costumes()
 {
     m_panel->setCanvas(nullptr);
@@ -93,8 +93,8 @@ void Costumes::update()
     m_panel->setCurrentIndex(m_palettes.indexOf(m_editor->paletteEditor()->currentPalette()));
 }
 
-/// To be looked at. What was clicked on is the palette that the row was made of, as long as the
-/// file has it, and the panel of palettes is not that of another file meanwhile.
+/// Shows the canvas in a palette. Only if the file still has the palette of that row, and the
+/// palette panel has not moved to another file.
 void Costumes::choose(int index)
 {
     Zorv::PaletteEditor* panel = m_editor->paletteEditor();
@@ -110,8 +110,8 @@ bool Costumes::isShown(int index) const
     return palettesFor(*m_editor).contains(m_palettes.value(index));
 }
 
-/// Of the panel alone. Its last events come when it is none any more, so the kind is looked at
-/// first.
+/// Only handles the panel's events. It checks the type first, because the last events arrive while
+/// the panel is being destroyed.
 bool Costumes::eventFilter(QObject* watched, QEvent* event)
 {
     switch (event->type()) {
@@ -124,7 +124,7 @@ bool Costumes::eventFilter(QObject* watched, QEvent* event)
     }
 }
 
-/// One that has only come in is told about its places while it moves.
+/// A drag that has just entered is accepted here; its position is checked while it moves.
 bool Costumes::takeDrag(QDropEvent* event)
 {
     const auto entries = Operations::PaletteEntries::fromMime(event->mimeData());
@@ -141,7 +141,7 @@ bool Costumes::takeDrag(QDropEvent* event)
     return true;
 }
 
-/// Whoever drags waits until the drop is over, so what the person has to be told comes behind it.
+/// Messages are shown after the drop, because the source of the drag waits for its end.
 void Costumes::takeColours(const Palette& palette, const Operations::PaletteEntries& entries)
 {
     auto* sprites = static_cast<Family::SpriteCollection*>(palette.owner()->sprites());

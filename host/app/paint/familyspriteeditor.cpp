@@ -17,7 +17,7 @@ bool FamilySpriteEditor::takeFiles(Zorv::Sprites* into, const QStringList& files
     return true;
 }
 
-/// Another sprite of the same number does not take its place here.
+/// Another sprite with the same number is no replacement here.
 bool FamilySpriteEditor::spriteUses(QStringList* places) const
 {
     const Family::FamilySprite* current = collection()->sprite(spriteIndex());

@@ -38,7 +38,7 @@ FirstZoom::FirstZoom(Zorv::SpriteEditor* editor, QObject* parent)
     };
     connect(canvas->undoStack(), &Zorv::ImageUndoStack::indexChanged, this, endIfShown);
     connect(canvas, &ImageCanvas::zoomChanged, this, endIfShown);
-    // The middle of the view moves with its size.
+    // The position changes when the view changes its size.
     connect(canvas, &ImageCanvas::positionChanged, this, &FirstZoom::fit);
 }
 

@@ -18,9 +18,9 @@ using Zorv::Sprite;
 namespace {
 
 constexpr double Opacity = 0.35;
-constexpr double LargestSide = 8192;  // of what is shown of a scaled frame
+constexpr double LargestSide = 8192;  // limit for a scaled frame, in pixels
 
-/// From the axis of a picture to the game, as a frame shows it.
+/// The transform from a picture's axis to game coordinates, as a frame shows it.
 QTransform placeOf(const FrameCode& frame)
 {
     const bool isLeft = frame.flip() & FrameCode::FlipHorizontally;
@@ -32,7 +32,7 @@ QTransform placeOf(const FrameCode& frame)
     return place;
 }
 
-/// From pixels of a picture to its axis.
+/// The transform from picture pixels to coordinates relative to the axis.
 QTransform toAxis(QPoint axis)
 {
     return QTransform::fromTranslate(-double(axis.x()), -double(axis.y()));
@@ -50,7 +50,7 @@ FrameShine::FrameShine(Zorv::SpriteEditor* sprites, const Zorv::AnimationEditor*
     connect(canvas, &Zorv::ImageCanvas::sizeChanged, this, &FrameShine::place);
 }
 
-/// The pictures and axes of the neighbours change in the file.
+/// Follows the file, because pictures and axes of the neighbours can change there.
 void FrameShine::followSprite()
 {
     if (m_followed != m_sprites->sprites()) {

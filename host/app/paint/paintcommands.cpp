@@ -35,8 +35,8 @@ namespace {
 
 constexpr int ColourCount = 256;
 
-/// Keys that a person has in the hand with the mouse on the canvas. They are those of the canvas
-/// alone: a text, a list and a field have other uses for letters.
+/// One-key shortcuts for use with the mouse on the canvas. They only work there: texts, lists and
+/// fields need the letters themselves.
 const char* const canvasKeys[] = {
     "spr_tool_canvasmove", "spr_tool_selmove",      "spr_tool_rectsel",
     "spr_tool_freesel",    "spr_tool_picker",       "spr_tool_pen",
@@ -61,7 +61,7 @@ PaintCommands::PaintCommands(const WindowServices& services, Zorv::PaletteEditor
     connect(m_animations, &Zorv::AnimationEditor::shownChanged, this, &PaintCommands::followFrame);
 }
 
-// What works on the editor goes before it.
+// Destroy what uses the editor before the editor.
 PaintCommands::~PaintCommands()
 {
     delete m_pan;
@@ -142,7 +142,7 @@ CommandRows PaintCommands::commands() const
              [this] { return canSave(); }}};
 }
 
-/// A file that has gone can be brought back.
+/// A file missing on disk can be written again.
 bool PaintCommands::canSave() const
 {
     return m_editor->file() && (m_editor->isModified() || isGone(m_editor->file()));
@@ -153,7 +153,7 @@ void PaintCommands::save()
     saveFile(m_services, m_editor->file());
 }
 
-/// Frames may have been edited meanwhile.
+/// The frames may have been edited while the canvas was not in front.
 void PaintCommands::updateState()
 {
     const bool isInFront = m_editor->isActive();
@@ -228,7 +228,7 @@ bool PaintCommands::isTrueColour() const
     return canvas->layers()->count() > 0 && canvas->format() == ImageCanvas::RGBAFormat;
 }
 
-/// Colours that are only looked at decide no pixel.
+/// Ends the colour preview: it must not affect the converted pixels.
 void PaintCommands::toIndexed()
 {
     m_editor->previewColors(nullptr);

@@ -16,7 +16,7 @@ PanSwitch::PanSwitch(QAction* action, ImageRenderer* renderer, SpriteWorkspace* 
                      QObject* parent)
     : QObject(parent), m_action(action), m_renderer(renderer)
 {
-    // A key that repeats would switch it on and off.
+    // A repeating key would toggle it on and off.
     action->setAutoRepeat(false);
     connect(renderer, &ImageRenderer::panningChanged, action, &QAction::setChecked);
     connect(workspace, &SpriteWorkspace::renderWidgetMade, this,
@@ -48,7 +48,7 @@ void PanSwitch::release()
     }
 }
 
-/// The canvas hears of a key before the action does.
+/// The canvas gets the key event before the shortcut triggers the action.
 bool PanSwitch::eventFilter(QObject* watched, QEvent* event)
 {
     const auto* key = static_cast<QKeyEvent*>(event);

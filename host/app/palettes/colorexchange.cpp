@@ -24,7 +24,7 @@ namespace {
 
 constexpr int DraggedSide = 16;
 
-/// Of what the grid shows, be it a palette or not.
+/// The entries of the grid, whether it shows a palette or not.
 PaletteEntries entriesOf(const Zorv::PaletteWidget& grid, const bool* selection)
 {
     PaletteEntries entries;
@@ -93,7 +93,8 @@ void ColorExchange::paste() const
     }
 }
 
-/// All that is selected goes with a slot of it. The grid may be gone when the drag ends.
+/// Dragging a selected slot drags the whole selection. The grid may be destroyed before the drag
+/// ends.
 void ColorExchange::drag(int slot)
 {
     Zorv::PaletteWidget* grid = m_editor->view();

@@ -23,7 +23,7 @@ AssetId behindLast(const Family::PaletteList& palettes)
         .next(AssetId::fromKey(last.key() + 1));
 }
 
-/// Asks until the answer is an identifier. False if the person gave up.
+/// Asks until the answer is an identifier. False if the user cancels.
 bool askForId(const QString& title, QString label, AssetId* id)
 {
     for (;;) {
@@ -74,7 +74,7 @@ void FamilyPaletteEditor::paletteIdentifiers(const QStringList& files, QList<QVa
     const int order = Dialogs::instance()->choose(
         title, tr("The order of the colours:"),
         {tr("As it is in the file"), tr("Reversed: the last colour becomes the first")}, 0);
-    // The file can be closed behind a dialog.
+    // The file can be closed while the dialog is open.
     const Family::SpriteCollection* collection = sprites();
     if (order < 0 || !collection) {
         return;

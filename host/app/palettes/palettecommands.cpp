@@ -28,7 +28,7 @@ PaletteCommands::PaletteCommands(const WindowServices& services)
             &PartList::updateSoon);
 }
 
-// What works on the editor goes before it.
+// Destroy what uses the editor before the editor.
 PaletteCommands::~PaletteCommands()
 {
     delete m_exchange;

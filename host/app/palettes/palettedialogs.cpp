@@ -58,7 +58,7 @@ QCheckBox* addBox(QFormLayout* form, const QString& text, bool isChecked = false
     return box;
 }
 
-/// A line of what is about to be changed.
+/// Adds a line that says what will be changed.
 void addExtent(QFormLayout* form, const QString& text)
 {
     auto* label = new QLabel(text);
@@ -85,7 +85,7 @@ void PaletteDialog::finish()
 {
     addButtons(this, m_form);
     setMinimumWidth(fontMetrics().averageCharWidth() * 50);
-    // Another palette in the grid, or other colours of this one.
+    // The grid shows another palette, or this palette has other colours.
     connect(m_chosen.editor(), &Zorv::PaletteEditor::currentPaletteChanged, this, [this] {
         if (!m_chosen.isThere()) {
             QTimer::singleShot(0, this, &QDialog::reject);

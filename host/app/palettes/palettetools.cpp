@@ -98,8 +98,8 @@ void PaletteTools::duplicate()
     }
 }
 
-/// Pixels of the file go along, and so have to be all in the file. What is painted gets there in
-/// the colours of its sprite, which come into the grid for that.
+/// Sorting also changes pixel indexes in the file, so all pixels must be in the file first. Painted
+/// changes are stored with the sprite's own palette, which the grid shows meanwhile.
 void PaletteTools::sort()
 {
     const ChosenPalette chosen = comeForward();
@@ -126,7 +126,7 @@ void PaletteTools::sort()
     if (sprites) {
         sprites->endChange();
     }
-    chosen.comeBack();  // a sprite that is read anew has its own come, too
+    chosen.comeBack();  // reloading a sprite also brings its own palette into the grid
     finish(title, result);
 }
 
@@ -192,8 +192,8 @@ void PaletteTools::countUses()
     }
 }
 
-/// What is changed is seen. What is meant is the palette that was chosen, which is there no more if
-/// the canvas is one of another file.
+/// Shows the grid, so that the change is visible. The operation applies to the palette chosen
+/// before; that no longer exists if the canvas shows another file.
 ChosenPalette PaletteTools::comeForward() const
 {
     const ChosenPalette chosen(m_editor);

@@ -59,7 +59,7 @@ QStringList PaletteUsage::count()
     }
     m_count.reset();
     const QPointer<PaletteUsage> alive(this);
-    sprites->beginChange({});  // which keeps the file from being read again meanwhile
+    sprites->beginChange({});  // keeps the file from being reloaded meanwhile
     const Operations::PaletteUseCount counted = Operations::countUses(*sprites);
     if (!sprites) {
         return {};
@@ -73,7 +73,7 @@ QStringList PaletteUsage::count()
     return Operations::brokenSprites(*sprites, counted.broken);
 }
 
-/// Of the collection in the panel, which can be another one.
+/// Follows the collection in the panel, which can change.
 void PaletteUsage::follow()
 {
     SpriteCollection* now = m_editor->sprites();
@@ -87,7 +87,7 @@ void PaletteUsage::follow()
     m_sprites = now;
     forget();
     if (now) {
-        // While a file is read anew its palettes come and go before the panel knows.
+        // While a file is reloaded, its palettes change before the panel is notified.
         const auto changed = [this] {
             forget();
             m_soon.start();
@@ -105,7 +105,7 @@ void PaletteUsage::forget()
     m_count.reset();
 }
 
-/// Null while nothing is counted.
+/// Null while no count exists.
 const PaletteUses* PaletteUsage::current() const
 {
     const Zorv::Palette* palette = m_editor->currentPalette();

@@ -43,11 +43,11 @@ using Zorv::CodeEditor;
 
 namespace {
 
-constexpr int SettleTime = 400;  // milliseconds: panels follow a little later
+constexpr int SettleTime = 400;  // milliseconds: panels update with a delay
 constexpr int Step = 10;
 
-/// How much a document fills the panels: one with both problems and animations
-/// goes first, then one with problems.
+/// How well a document fills the panels: best one with problems and animations, then one with
+/// problems.
 using Weight = std::tuple<bool, int, int>;
 
 Weight weightOf(const FamilyDocument* document)
@@ -66,7 +66,7 @@ FamilyDocument* mostTelling(const FamilyProject* project, FamilyDocument* best)
     return best;
 }
 
-/// Opens the document that fills the panels best, and its project; null for none.
+/// Opens the document that fills the panels best, with its project; null if there is none.
 FamilyDocument* openMostTelling(MainWindow* window)
 {
     FamilyDocument* best = nullptr;
@@ -79,7 +79,7 @@ FamilyDocument* openMostTelling(MainWindow* window)
         }
     }
     const FamilyProject* shown = projectOf(best);
-    // Projects that were only looked into would fill the tree.
+    // Close projects that were only searched, or they would fill the tree.
     const QList<FamilyProject*> projects = window->session()->projects();
     for (FamilyProject* project : projects) {
         if (project != shown) {
@@ -91,7 +91,8 @@ FamilyDocument* openMostTelling(MainWindow* window)
     return isOpen ? best : nullptr;
 }
 
-/// The n-th line that begins with a word, counted from 0; the first line if there are fewer.
+/// The n-th line that begins with a word, counted from 0; the first line of the text if there are
+/// fewer.
 QTextBlock lineOf(const FamilyDocument* document, const QString& word, int n)
 {
     for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
@@ -133,7 +134,7 @@ void showFolds(MainWindow* window, const FamilyDocument* document)
     QApplication::sendEvent(edit->viewport(), &move);
 }
 
-/// What can stand behind a frame.
+/// The words that can follow a frame.
 void showWords(MainWindow* window, const FamilyDocument* document)
 {
     const QTextBlock line = lineOf(document, QStringLiteral("frame"), 2);
@@ -178,13 +179,13 @@ void showAttack(MainWindow* window, const FamilyDocument* document, int animatio
     window->textEditor()->goTo(line.blockNumber());
 }
 
-/// With its sprite beside it.
+/// An attack with its sprite beside it.
 void showSprites(MainWindow* window, const FamilyDocument* document)
 {
     showAttack(window, document, 8);
 }
 
-/// On the stage, with the frame before it shining through, rulers, and a box that is selected.
+/// The stage with onion skin, rulers and a selected box.
 void showStage(MainWindow* window, const FamilyDocument* document)
 {
     window->actionByName("view_stage")->trigger();
@@ -204,7 +205,7 @@ void showStage(MainWindow* window, const FamilyDocument* document)
     }
 }
 
-/// A sprite on the canvas, beside itself as large as it is, with a second layer and its costumes.
+/// A sprite on the canvas, with a view in its original size, a second layer and its costumes.
 void showPaint(MainWindow* window, const FamilyDocument* document)
 {
     window->findChild<QDockWidget*>(QStringLiteral("messages"))->hide();
@@ -212,7 +213,7 @@ void showPaint(MainWindow* window, const FamilyDocument* document)
     PaintCommands* paint = window->paint();
     paint->showSprite(window->spritePanel()->sprites(), window->spritePanel()->currentRow());
     paint->costumes()->parentWidget()->show();
-    // The zoom follows the room until a layer is added.
+    // The zoom follows the view's size until a layer is added.
     settleWindow();
     settleWindow();
     for (const char* name : {"paint_grid", "spr_view_original", "spr_layer_add"}) {
@@ -251,7 +252,7 @@ void arrangeScene(MainWindow* window, const QString& name)
         return name == QLatin1String(scene.name);
     });
     if (document) {
-        // What is told of the text has all of the room.
+        // Without the stage, the text has all the space.
         window->actionByName("view_stage")->trigger();
         settleWindow();
         (found == std::end(scenes) ? scenes : found)->arrange(window, document);

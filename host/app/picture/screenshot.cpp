@@ -14,7 +14,7 @@ namespace App {
 
 namespace {
 
-// Larger windows make pictures of which nothing can be read.
+// In pictures of larger windows, text is too small to read.
 const QSize PictureSize(1280, 800);
 
 /// Makes the texts of this file known to translators.
@@ -23,7 +23,7 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(App::Screenshot)
 };
 
-/// The window with the popups in front of it, which are windows of their own.
+/// The window with its popups, which are windows of their own.
 QPixmap pictureOf(MainWindow* window)
 {
     QPixmap picture = window->grab();

@@ -32,7 +32,8 @@ bool hasHiddenLayer(const Zorv::ImageLayers& layers)
     return false;
 }
 
-/// -1 if it is not there. The row counts before the others: several can have one identifier.
+/// The row of a canvas's sprite, or -1. The stored row is checked first: several sprites can have
+/// the same identifier.
 int rowOf(const Zorv::Sprites& sprites, const Operations::CanvasCopy& canvas)
 {
     if (identifierOf(sprites.sprite(canvas.row)) == canvas.identifier && canvas.row >= 0) {
@@ -57,7 +58,7 @@ CanvasInput::CanvasInput(Zorv::SpriteEditor* editor, QObject* parent)
     connect(canvas, &Zorv::ImageCanvas::axisChanged, this, &CanvasInput::changeSoon);
 }
 
-/// Once for a whole act.
+/// Merges the changes of one operation into one signal.
 void CanvasInput::changeSoon()
 {
     if (!m_isPending) {

@@ -43,7 +43,7 @@ Zorv::FileID::Type typeOf(const Operations::RecoveryCopy& copy)
     }
 }
 
-/// Null if the project has no such file.
+/// The sprite or sound file of a project; null if it has no such file.
 Zorv::ProjectFile* assetsOf(FamilyProject* project, Zorv::FileID::Type type,
                             const QString& fileName)
 {
@@ -125,7 +125,7 @@ void WorkRecovery::offer(const QString& gameFolder)
             found.all().at(i).discard();
         }
     }
-    // The sprite of a canvas may come back with another copy.
+    // Canvases come last: their sprite may be in another copy restored here.
     std::stable_partition(restored.begin(), restored.end(), [](const AbandonedWork& work) {
         return work.copy.content != Operations::RecoveryCopy::Canvas;
     });
@@ -134,8 +134,8 @@ void WorkRecovery::offer(const QString& gameFolder)
     }
 }
 
-/// One game is open at a time: that in front if some of the work is of it, else that of the
-/// first. True if a game is open then.
+/// Only one game can be open: the current one if it contains some of the work, else the game of the
+/// first work. True if a game is open afterwards.
 bool WorkRecovery::openGame(const QList<AbandonedWork>& works)
 {
     const QString open = m_services.session->folder();
@@ -166,7 +166,7 @@ void WorkRecovery::restore(const QList<AbandonedWork>& works)
             errors.append(error);
         }
     }
-    // The old copies go when the new ones are there.
+    // Remove the old copies only after the new ones are stored.
     if (m_keeper->flush()) {
         for (const AbandonedWork& work : qAsConst(done)) {
             work.discard();
@@ -177,7 +177,7 @@ void WorkRecovery::restore(const QList<AbandonedWork>& works)
     }
 }
 
-/// Gives the file that the work is in then; null, with `error`, if that fails.
+/// Returns the file that contains the restored work; null, with `error`, on failure.
 Zorv::ProjectFile* WorkRecovery::bringBack(const AbandonedWork& work, QString* error)
 {
     Zorv::ProjectFile* file = fileOf(work, error);
@@ -197,7 +197,7 @@ bool WorkRecovery::apply(const AbandonedWork& work, Zorv::ProjectFile* file, QSt
     return m_canvas && work.readCanvas(&canvas, error) && m_canvas->restore(file, canvas, error);
 }
 
-/// Sprites and sounds are seen with a text of their project.
+/// Sprites and sounds are shown with a text of their project.
 void WorkRecovery::show(Zorv::ProjectFile* file)
 {
     auto* document = dynamic_cast<FamilyDocument*>(file);

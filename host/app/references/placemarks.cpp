@@ -43,12 +43,12 @@ QRect PlaceMarks::frameOf(const QTextCursor& place) const
     const QRect first = m_editor->cursorRect(end);
     end.setPosition(place.selectionEnd());
     const QRect last = m_editor->cursorRect(end);
-    // A word that goes on in the next row of a wrapped line is marked to the edge.
+    // A word that continues in the next visual row is marked to the right edge.
     const int right = first.top() == last.top() ? last.left() : width();
     return QRect(QPoint(first.left() - 1, first.top()), QPoint(right, first.bottom()));
 }
 
-/// Only those in sight are measured: a list can have many thousand places.
+/// Measures only visible places: there can be many thousand.
 void PlaceMarks::paintEvent(QPaintEvent*)
 {
     const int first = m_editor->cursorForPosition({0, 0}).position();

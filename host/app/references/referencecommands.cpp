@@ -58,7 +58,7 @@ bool ReferenceCommands::canUndoRename() const
     return !m_last.isEmpty() && m_services.session->game();
 }
 
-/// What another game has been renamed is no longer known here.
+/// Names and renames of another game do not apply here.
 void ReferenceCommands::showGame(Family::FamilyParentProject*)
 {
     m_index.reset();
@@ -75,7 +75,7 @@ void ReferenceCommands::showDocument(FamilyDocument*)
     mark();
 }
 
-/// Cursors do not outlive their texts.
+/// The cursors must not outlive their texts.
 void ReferenceCommands::forgetProject(Family::FamilyProject*)
 {
     m_marks->setPlaces({});
@@ -86,7 +86,7 @@ QVector<PanelPlace> ReferenceCommands::places()
     return {PanelPlace::of(m_panel)};
 }
 
-/// The name at the cursor, else the one of its line: no line has two.
+/// The name at the cursor, else the name in its line: a line has at most one.
 Subject ReferenceCommands::subjectAtCursor() const
 {
     const FamilyDocument* document = m_services.parts->document();
@@ -99,7 +99,7 @@ Subject ReferenceCommands::subjectAtCursor() const
     return name.isNone() ? Subject() : Subject::of(QDir::cleanPath(project->fileName()), name);
 }
 
-/// Texts with changes take the place of their files.
+/// Modified texts replace their files in the index.
 void ReferenceCommands::handOverTexts()
 {
     QHash<QString, std::shared_ptr<const Family::SourceText>> texts;
@@ -122,7 +122,7 @@ void ReferenceCommands::handOverTexts()
     }
 }
 
-/// Null if the person gives up, or the game was closed meanwhile.
+/// Null if the user cancels, or if the game was closed meanwhile.
 ReferenceCommands::IndexPtr ReferenceCommands::bringUpToDate()
 {
     if (!m_index) {
@@ -204,7 +204,7 @@ void ReferenceCommands::rename()
         return planRename(*index, subject, name, unsavedPaths(*m_services.session));
     };
     RenameDialog dialog(subject, index->gameFolder(), plan, m_services.window);
-    // Files change while a dialog is open; the game may be closed.
+    // While the dialog is open, files can change and the game can be closed.
     if (dialog.exec() != QDialog::Accepted || !self || index != m_index) {
         return;
     }

@@ -68,7 +68,7 @@ QSet<QString> pathsOf(const ChangeSet& changes)
     return paths;
 }
 
-/// Several projects can have an object of one file each.
+/// Several projects can each have an object of the same file.
 QVector<OpenFile> openFilesOf(const ChangeSet& changes, const GameSession& session)
 {
     const QSet<QString> paths = pathsOf(changes);
@@ -90,7 +90,7 @@ QVector<OpenFile> openFilesOf(const ChangeSet& changes, const GameSession& sessi
     return files;
 }
 
-/// What differs in a line is replaced, and no more: cursors beside it stay.
+/// Replaces only the part of a line that differs, so that cursors beside it do not move.
 void replaceLine(FamilyDocument* document, const RenamedLine& line)
 {
     const QTextBlock block = document->findBlockByNumber(line.line - 1);
@@ -124,9 +124,9 @@ void editText(FamilyDocument* document, const QString& path, const QVector<Renam
     document->endChange();
 }
 
-/// An error, or nothing. The text is saved for its name, its watch and its state: the file says the
-/// same already. If it does not, somebody else has written it or the text is shown in another
-/// encoding, and the file counts.
+/// Returns an error, or an empty text. Saving updates the name, the file watch and the state of the
+/// text; the file already has this content. If it does not, someone else wrote it or the text has
+/// another encoding, and the file wins.
 QString followText(FamilyDocument* document, const QString& newPath)
 {
     Zorv::Archive& archive = *document->archive();
@@ -181,13 +181,13 @@ bool RenameAct::run(GameSession* session, const QString& title, QString* error)
             faults += fault.isEmpty() ? QStringList() : QStringList(fault);
         }
     }
-    // Only now: two projects can have an object of one file each.
+    // Only after all files: two projects can share one file.
     for (const OpenFile& file : files) {
         if (Zorv::FileWatchObject* watched = file.watched()) {
             watched->endPause();
         }
     }
-    // A text that was saved ends its lines as a save does.
+    // Saving may have changed the line endings of open texts, so the stored change is adjusted.
     for (ChangeSet::Text& text : m_changes.texts) {
         QFile saved(m_changes.movedPath(text.path));
         const bool isOpen = std::any_of(files.begin(), files.end(), [&](const OpenFile& file) {

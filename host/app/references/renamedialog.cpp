@@ -14,7 +14,7 @@ namespace App {
 
 namespace {
 
-constexpr int Wait = 150;  // milliseconds after a key
+constexpr int Wait = 150;  // milliseconds after a key press
 constexpr int MostRows = 2000;
 
 }  // namespace
@@ -61,7 +61,7 @@ RenameDialog::RenameDialog(const Operations::Subject& subject, const QString& ga
     m_lines->setColumnWidth(1, letter * 34);
 }
 
-/// Return does not wait for the preview, and does not pass over what it would tell.
+/// Return may come before the preview. Compute it now, so that its warnings are not skipped.
 void RenameDialog::accept()
 {
     look();

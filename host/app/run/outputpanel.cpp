@@ -24,7 +24,7 @@ constexpr int BytesATurn = 16 * 1024;
 constexpr int LinesATurn = 400;
 constexpr int UsualColumns = 80;
 
-/// Where the piece ends that begins at `from`; `lines` takes its line ends.
+/// The end of the piece that begins at `from`; `lines` receives its number of line ends.
 int endOfPiece(const QByteArray& bytes, int from, int* lines)
 {
     const int last = std::min(bytes.size(), from + BytesATurn);
@@ -140,7 +140,7 @@ OutputPanel::Piece OutputPanel::takePiece(std::deque<Piece>::iterator at)
     return piece;
 }
 
-// What would be pushed out of the view before anybody saw it.
+// Drops output that would scroll out of the view before anyone could see it.
 void OutputPanel::dropOld()
 {
     for (size_t i = 0;

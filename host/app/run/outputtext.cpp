@@ -8,7 +8,7 @@ namespace {
 
 enum Sequence { Whole, Cut, Wrong };
 
-/// Looks at the character that begins at `at`.
+/// Decodes the character at `at`.
 Sequence readCharacter(const QByteArray& bytes, int at, uint* code, int* length)
 {
     const uchar first = uchar(bytes.at(at));
@@ -33,7 +33,7 @@ Sequence readCharacter(const QByteArray& bytes, int at, uint* code, int* length)
     return isTooLong || *code > 0x10FFFF || QChar::isSurrogate(*code) ? Wrong : Whole;
 }
 
-/// As terminals show control characters: "^[".
+/// Shows control characters like a terminal: "^[".
 QString signOf(uint code)
 {
     return code < 0x20 || code == 0x7F

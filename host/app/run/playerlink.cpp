@@ -10,8 +10,8 @@ namespace App {
 
 namespace {
 
-/// In the folder of the session, which is emptied at its end, as no other end of a program is sure
-/// to be: a name that is left over stands for nothing, for it never comes again.
+/// The socket is in the session folder, which is emptied when the session ends: a killed program
+/// cannot remove it. A leftover socket does no harm, because names are never reused.
 QString newSocketName()
 {
     const QFileInfo session(qEnvironmentVariable("XDG_RUNTIME_DIR"));

@@ -48,7 +48,8 @@ QString namesOf(const QStringList& paths)
     return names.join(QLatin1Char('\n'));
 }
 
-/// On one line, for whoever names a folder could write a text of the window with it.
+/// A name on one line. A folder name with line breaks could otherwise pretend to be text of this
+/// window.
 QString shownName(const QString& name)
 {
     OutputText signs;
@@ -56,7 +57,7 @@ QString shownName(const QString& name)
     return QString(shown).replace(QLatin1Char('\n'), QLatin1String("^J"));
 }
 
-/// What is started if the person does not agree to the program of the game.
+/// The engine to start if the user refuses the game's own program.
 QString otherEngine()
 {
     const auto* engines = Family::FamilyEngineModel::instance();
@@ -167,7 +168,7 @@ void RunCommands::run()
     m_services.parts->updateSoon();
     {
         const Operations::NamedProgram named(program);
-        // Everything may have been closed when this comes back.
+        // After this call, everything may be closed.
         startEngine(game);
     }
     if (!self) {
@@ -184,7 +185,7 @@ void RunCommands::run()
     }
 }
 
-/// The player, if that is started, finds the window by the socket.
+/// If the engine is the player, it connects to the window by this socket.
 void RunCommands::startEngine(Family::FamilyParentProject* game)
 {
     if (game->isRunning()) {
@@ -212,8 +213,8 @@ void RunCommands::gameChanged()
     }
 }
 
-/// The player gets a copy of what it plays with all that is not saved yet. What was closed since is
-/// as it is in its file.
+/// Sends the player a new copy of its project, with all unsaved changes. If the project was closed,
+/// the player loads it from its file.
 void RunCommands::playAgain()
 {
     const QPointer<RunCommands> self = this;
@@ -222,7 +223,7 @@ void RunCommands::playAgain()
         return;
     }
     if (QApplication::activeModalWidget()) {
-        // Something is being asked or saved: what is there at its end counts.
+        // A dialog is open: wait for its result.
         m_playSoon.start(LaterMilliseconds);
         return;
     }
@@ -249,8 +250,8 @@ void RunCommands::playAgain()
     }
 }
 
-/// A line of the game that the player asks for. It waits for no dialog: who answers one looks at
-/// the window anyway.
+/// Shows a line requested by the player. Ignored while a dialog is open: whoever answers it looks
+/// at the window anyway.
 void RunCommands::showLine(const QString& file, int line)
 {
     const Family::FamilyParentProject* game = m_services.session->game();
@@ -260,7 +261,7 @@ void RunCommands::showLine(const QString& file, int line)
         (isInGame && !m_services.jumps->openFile(file)) || !self) {
         return;
     }
-    // What was never saved has no file but the copy.
+    // An unsaved project has no file, only the copy.
     const bool isUnnamed = !isInGame && m_played && m_played->fileName().isEmpty();
     Family::FamilyDocument* document = isUnnamed  ? m_played->mainDocument()
                                        : isInGame ? m_services.session->document(file, m_played)
@@ -275,8 +276,8 @@ void RunCommands::showLine(const QString& file, int line)
     window->activateWindow();
 }
 
-/// What the folder of the game brings along is only started if the person agrees to that. False if
-/// there is nothing else to be started.
+/// A program that comes with the game folder is only started if the user agrees. False if there is
+/// nothing else to start.
 bool RunCommands::settleProgram(Family::GameProgram* program) const
 {
     const Family::GameProgram found(m_services.session->folder());

@@ -45,11 +45,11 @@ namespace {
 
 constexpr int TypingTime = 250;  // milliseconds
 
-/// More would be of no use to anybody, and take memory.
+/// More results would be of no use and take memory.
 constexpr int MostInFile = 1000;
 constexpr int MostHits = 100000;
 
-/// Files show their lines by themselves as long as there are no more rows than these.
+/// Files are expanded automatically up to this number of rows.
 constexpr int MostUnfolded = 400;
 
 constexpr int FieldWidth = 330;
@@ -63,7 +63,7 @@ QString optionsKey()
     return QStringLiteral("find_options");
 }
 
-/// The work of one thread.
+/// The search job of a worker thread.
 GameTexts::Work workOf(const QString& text, int options)
 {
     const FindPattern pattern(text, options);
@@ -312,7 +312,7 @@ void FindInFiles::changeEvent(QEvent* event)
     }
 }
 
-/// Return searches at once, and goes to the places.
+/// Return searches at once and moves the focus to the results.
 bool FindInFiles::eventFilter(QObject* watched, QEvent* event)
 {
     const auto* press = static_cast<QKeyEvent*>(event);
@@ -345,7 +345,7 @@ void FindInFiles::openReplace()
     open(true);
 }
 
-/// With the selection, if that is a part of one line.
+/// Opens the panel with the selection, if that is within one line.
 void FindInFiles::open(bool withReplace)
 {
     const auto* edit = qobject_cast<QPlainTextEdit*>(QApplication::focusWidget());
@@ -478,7 +478,7 @@ void FindInFiles::showReplacement()
     showState();
 }
 
-/// A file that is not open is opened, with its project.
+/// Opens the file and its project if necessary.
 void FindInFiles::goTo(const QModelIndex& index)
 {
     const QString path = m_model->pathAt(index);
@@ -486,7 +486,7 @@ void FindInFiles::goTo(const QModelIndex& index)
     if (path.isEmpty()) {
         return;
     }
-    // Opening a file takes time in which the tree can change.
+    // Copied, because the tree can change while a file is opened.
     const FindHit place = hit ? *hit : FindHit{0, 0, 0, 0, {}, 0};
     if (!m_services.session->document(path) && !m_services.jumps->openFile(path)) {
         return;

@@ -1,4 +1,4 @@
-// What becomes of the places that are ticked.
+// Replacing the ticked places.
 
 #include "app/find/findfield.h"
 #include "app/search/findinfiles.h"
@@ -25,8 +25,8 @@ namespace {
 
 constexpr int MostTold = 10;
 
-/// The document in which the person would look for the change: the one with changes, if several
-/// projects have one of the file.
+/// The document where the user would look for the change: the modified one, if several projects
+/// have a document of this file.
 FamilyDocument* documentOf(const GameSession* session, const QString& path)
 {
     FamilyDocument* first = session->document(path);
@@ -61,8 +61,8 @@ bool FindInFiles::mayReplace(const QVector<FileHits>& chosen) const
                                          Dialogs::Yes) == Dialogs::Yes;
 }
 
-/// Questions and progress run an event loop: files can be opened and closed meanwhile, so each is
-/// looked for when its turn has come, and one that has changed is left as it is.
+/// Dialogs run an event loop in which files can be opened and closed. So each file is looked up
+/// only when it is its turn, and is skipped if it has changed.
 void FindInFiles::replaceChosen()
 {
     m_open->watchAll();

@@ -7,7 +7,7 @@ namespace App {
 using Operations::FileHits;
 using Operations::FindHit;
 
-/// Its rows point to it, so it stays where it is in memory.
+/// Model indexes point to it, so its address must not change.
 struct HitModel::File
 {
     FileHits found;
@@ -25,7 +25,7 @@ struct HitModel::File
 
 namespace {
 
-/// The same place, though lines above it may have come or gone.
+/// The same place, even if its line number changed.
 bool isSame(const FindHit& a, const FindHit& b)
 {
     return a.length == b.length && a.column == b.column && a.shown == b.shown;
@@ -74,7 +74,7 @@ void HitModel::take(const QVector<FileHits>& found)
     }
 }
 
-/// Many at once: a view does the same for one row as for a hundred.
+/// Appends many rows at once: for a view, a hundred rows cost as much as one.
 void HitModel::append(const QVector<FileHits>& found)
 {
     Files files;
@@ -116,7 +116,7 @@ void HitModel::takeOne(const FileHits& found)
     }
 }
 
-/// What is the same at both ends keeps its rows; the rest comes or goes.
+/// Keeps the equal rows at both ends; inserts or removes the rest.
 void HitModel::replace(int row, const FileHits& found)
 {
     File* file = m_files[size_t(row)].get();

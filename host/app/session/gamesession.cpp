@@ -26,7 +26,7 @@ QString cleaned(const QString& path)
     return QDir::cleanPath(QFileInfo(path).absoluteFilePath());
 }
 
-// Two paths to one file, by a link or otherwise, are one file.
+// Two paths can lead to one file, for example by a link.
 bool isSameFile(const QString& a, const QString& b)
 {
     return a == b || (QFileInfo::exists(a) && QFileInfo(a) == QFileInfo(b));
@@ -223,7 +223,7 @@ QList<Zorv::ProjectFile*> GameSession::modifiedFiles(const FamilyProject* projec
     }
     for (const FamilyProject* open : m_projects) {
         for (const auto type : {Zorv::FileID::Sprites, Zorv::FileID::Sounds}) {
-            // Also those that the text names no more.
+            // Including files that the text no longer names.
             const QList<Zorv::ProjectFile*> files = open->filesByType(type);
             for (Zorv::ProjectFile* file : files) {
                 if ((!project || project == open) && FileInput::isUnsaved(file)) {
@@ -256,7 +256,7 @@ bool isGone(const Zorv::ProjectFile* file)
 
 FamilyProject* projectOf(const FamilyDocument* document)
 {
-    // Every project of this program is one of the family.
+    // Every project of this program is a FamilyProject.
     return document ? static_cast<FamilyProject*>(document->project()) : nullptr;
 }
 

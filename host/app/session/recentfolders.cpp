@@ -15,7 +15,7 @@ const QString& key()
     return name;
 }
 
-// A path without its last slash: one folder has one entry.
+// Without the trailing slash, so that each folder has one entry.
 QString cleaned(const QString& folder)
 {
     return QDir::cleanPath(QDir(folder).absolutePath());

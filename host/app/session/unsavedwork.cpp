@@ -61,14 +61,14 @@ QString projectTitle(const ProjectFile* file)
     return project ? project->title() : QString();
 }
 
-/// Objects of one file in several projects, of which one is saved.
+/// Objects of one file in several projects. One of them is saved.
 struct Twins
 {
     ProjectFile* chosen;
     QList<ProjectFile*> others;
 };
 
-/// The text of a document; null for sprites and sounds, which are not compared.
+/// The document; null for sprites and sounds, whose contents are not compared.
 FamilyDocument* documentOf(ProjectFile* file)
 {
     return dynamic_cast<FamilyDocument*>(file);
@@ -91,7 +91,7 @@ bool haveOneContent(const QList<ProjectFile*>& files)
             }));
 }
 
-/// The objects of each file; those without a file are left out.
+/// The objects of each file; objects without a file are left out.
 QMap<QString, QList<ProjectFile*>> byFileName(const QList<ProjectFile*>& files)
 {
     QMap<QString, QList<ProjectFile*>> result;
@@ -102,7 +102,7 @@ QMap<QString, QList<ProjectFile*>> byFileName(const QList<ProjectFile*>& files)
     return result;
 }
 
-/// The place of the object to save; -1 if the person gives up.
+/// The index of the object to save; -1 if the user cancels.
 int chooseTwin(const QList<ProjectFile*>& files)
 {
     QStringList choices;
@@ -117,8 +117,8 @@ int chooseTwin(const QList<ProjectFile*>& files)
         choices, 0);
 }
 
-/// Takes out of the files all but one of those that share a path and differ, and tells
-/// them apart in `twins`. False if the person gives up.
+/// If objects share a path and differ, keeps one of them in `files` and adds the group to `twins`.
+/// False if the user cancels.
 bool settleTwins(QList<ProjectFile*>* files, QList<Twins>* twins)
 {
     const QMap<QString, QList<ProjectFile*>> byFile = byFileName(*files);
@@ -139,7 +139,7 @@ bool settleTwins(QList<ProjectFile*>* files, QList<Twins>* twins)
     return true;
 }
 
-/// What was not chosen reads the saved file; if that was not written, all stays.
+/// The objects that were not chosen reload the saved file. If it was not written, nothing changes.
 bool readSaved(const Twins& twins)
 {
     bool all = true;
@@ -183,9 +183,8 @@ Operations::Saved writeFile(ProjectFile* file, QString* error)
     return isSaved ? Operations::Saved::Done : Operations::Saved::Failed;
 }
 
-/// What another program has written since is not lost without a word. What it writes at this
-/// moment is not written over: the file is left alone, and the
-/// person asked about it as about any change.
+/// Asks before overwriting changes of another program. If another program is writing right now, the
+/// file is left alone, and the user is asked as for any other change.
 Operations::Saved saveFile(ProjectFile* file, QString* error)
 {
     FileStates* states = FileStates::instance();
@@ -216,7 +215,7 @@ QString questionAbout(bool isOne, bool areChanged)
                             "is open here is their last copy:");
 }
 
-/// False if the person gives up, or some of it fails; `errors` tells why.
+/// False if the user cancels or a file fails; `errors` has the reasons.
 bool writeAll(QList<ProjectFile*> files, QStringList* errors)
 {
     QList<Twins> twins;
@@ -225,7 +224,7 @@ bool writeAll(QList<ProjectFile*> files, QStringList* errors)
     }
     for (const Twins& sharing : qAsConst(twins)) {
         for (ProjectFile* other : sharing.others) {
-            // It is told of this save here.
+            // No report by the file watch: the object is updated here.
             pauseWatch(other, true);
         }
     }

@@ -133,7 +133,8 @@ bool EnginesPage::write(QString* error)
     auto* model = Family::FamilyEngineModel::instance();
     if (QSettings* store = settings()) {
         if (!Operations::saveEngines(*store, m_engines)) {
-            // It is the first that looks whether the file was written; nothing else was either.
+            // Saving the engines is the first to check that the file was written; other settings
+            // were not saved either.
             *error = tr("The settings could not be saved. Check the permissions of the settings "
                         "file.");
             return false;
@@ -165,7 +166,7 @@ void EnginesPage::remove()
     if (row >= 0) {
         m_engines.remove(row);
         {
-            // On its way to the next row the list names one that is gone.
+            // While an item is removed, the list reports a row that no longer exists.
             const QSignalBlocker blocker(m_list);
             delete m_list->takeItem(row);
         }

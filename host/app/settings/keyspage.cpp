@@ -18,7 +18,7 @@ namespace App {
 
 namespace {
 
-constexpr int KeyWidth = 130;  // of the columns beside that of the actions
+constexpr int KeyWidth = 130;  // width of the columns after the action column
 
 }  // namespace
 
@@ -122,8 +122,8 @@ void KeysPage::restoreDefaults()
     showKey();
 }
 
-/// The editor tells of a key a second later, in case that more follow; a click on a button may
-/// come before that.
+/// The editor reports a key with a delay of a second, in case more keys follow. A click on a button
+/// may come earlier, so the key is taken on release.
 bool KeysPage::eventFilter(QObject* watched, QEvent* event)
 {
     const int row = currentRow();

@@ -11,7 +11,7 @@ namespace App {
 
 namespace {
 
-/// Of two keys of which one begins the other none would work.
+/// If one shortcut is the beginning of the other, neither works.
 bool areInEachOthersWay(const QList<QKeySequence>& first, const QList<QKeySequence>& second)
 {
     for (const QKeySequence& a : first) {
@@ -110,7 +110,7 @@ void KeyTable::change(int row, const QList<QKeySequence>& keys, bool isChosen)
     emit edited();
 }
 
-/// By what is shown, which the registry does not know yet.
+/// Compares the rows, because the registry does not know the changes yet.
 void KeyTable::findClashes()
 {
     QVector<QStringList> areas;

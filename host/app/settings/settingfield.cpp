@@ -75,7 +75,7 @@ private:
     QSpinBox* m_box;
 };
 
-/// The value is that which was set until the person edits it: percents cannot show them all.
+/// Keeps the exact value until the user edits it: whole percents cannot represent every value.
 class ShareField final : public SettingField
 {
 public:
@@ -117,7 +117,7 @@ public:
     QWidget* widget() const override { return m_box; }
     QVariant value() const override { return m_box->currentData(); }
 
-    /// A value that is not among them is shown as the first.
+    /// An unknown value is shown as the first choice.
     void setValue(const QVariant& value) override
     {
         m_box->setCurrentIndex(std::max(m_box->findData(value), 0));
@@ -139,7 +139,7 @@ private:
     QComboBox* m_box;
 };
 
-/// The first entry stands for the font of the desktop, which has no name.
+/// The first entry is the desktop's font, which has no name.
 class FontField final : public SettingField
 {
 public:
@@ -181,7 +181,7 @@ private:
     QComboBox* m_box;
 };
 
-/// A button whose menu takes the colour of the theme, or that of the first start, or asks for one.
+/// A button whose menu offers the theme's colour or the default colour, and a colour dialog.
 class ColourField final : public SettingField
 {
 public:
@@ -223,7 +223,7 @@ private:
         return picture;
     }
 
-    /// Invalid where it is that of the theme.
+    /// Invalid if the default is the theme's colour.
     QColor firstColour() const
     {
         return Operations::HostInterface::defaultOption(QLatin1String(row().key)).value<QColor>();

@@ -20,7 +20,7 @@ namespace App {
 
 namespace {
 
-constexpr int Margin = 24;  // beside the widest title
+constexpr int Margin = 24;  // added to the widest title
 const QSize FirstSize(780, 600);
 
 }  // namespace

@@ -13,7 +13,7 @@ namespace App {
 
 namespace {
 
-/// What the person has chosen: nothing, where a colour is left to the theme.
+/// The user's choice; invalid if a colour is left to the theme.
 QVariant storedOption(const SettingRow& row)
 {
     const auto* host = static_cast<Operations::HostInterface*>(Zorv::Interface::instance());
@@ -55,7 +55,7 @@ void TablePage::addLine(const SettingRow& row)
     m_lines.push_back(std::move(line));
 }
 
-/// The wheel scrolls the page, and does not change what it passes.
+/// The wheel scrolls the page and must not change fields it passes over.
 bool TablePage::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Wheel && !static_cast<QWidget*>(watched)->hasFocus()) {
@@ -87,7 +87,7 @@ void TablePage::read()
     }
 }
 
-/// A setting that is as at first is not stored: a later version may know a better default.
+/// A default value is not stored, so that a later version can change the default.
 bool TablePage::write(QString*)
 {
     Zorv::Interface* host = Zorv::Interface::instance();

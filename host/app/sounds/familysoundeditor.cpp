@@ -34,7 +34,7 @@ bool FamilySoundEditor::mayDeleteSound()
     });
 }
 
-/// Programs that record without an end leave sizes that are wrong.
+/// Programs that record without a known end leave wrong sizes in the file.
 bool FamilySoundEditor::mayReadSounds(const QStringList& fileNames)
 {
     m_extent = SoundExtent::AsTold;
@@ -51,7 +51,7 @@ bool FamilySoundEditor::mayReadSounds(const QStringList& fileNames)
     return answer == Dialogs::Yes || answer == Dialogs::No;
 }
 
-/// What the person was asked about is not told once more.
+/// Does not report again what the user was already asked about.
 Zorv::SoundEditor::SoundReader FamilySoundEditor::soundReader(const QString& fileName)
 {
     return [fileName, extent = m_extent](QString* reason) {

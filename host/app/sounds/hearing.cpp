@@ -74,7 +74,7 @@ void Hearing::actionsMade()
     m_panel->list()->addAction(m_services.actions->action(QStringLiteral("snd_add")));
 }
 
-/// A text can come to name another file.
+/// An edit can make the text name another sound file.
 void Hearing::showProject(Family::FamilyProject* project)
 {
     m_panel->setSounds(
@@ -82,13 +82,13 @@ void Hearing::showProject(Family::FamilyProject* project)
     m_panel->setProject(project);
 }
 
-/// Any text may have come to play another sound.
+/// Any text may play other sounds now.
 void Hearing::updateState()
 {
     m_panel->updateUsesSoon();
 }
 
-/// Whoever goes through the panel hears what is selected there, if sounds are in the middle.
+/// While sounds are in the middle, selecting one in the panel shows it there.
 void Hearing::follow(int row)
 {
     if (row >= 0 && m_editor->isActive() && m_panel->list()->hasFocus()) {
@@ -96,7 +96,8 @@ void Hearing::follow(int row)
     }
 }
 
-/// What the list has selected goes by its keys; the rest is that of the editor, also for the moves.
+/// Delete and Select all act on the list of sounds. The other commands come from the editor, for
+/// the list of moves too.
 QVector<PanelPlace> Hearing::places()
 {
     const CommandRows rows{{Command::Delete, [this] { removeSelected(); },
@@ -122,7 +123,7 @@ CommandRows Hearing::commands()
         {Command::Save, [this] { save(); }, [this] { return canSave(); }}};
 }
 
-/// A file that has gone can be brought back.
+/// A file missing on disk can be written again.
 bool Hearing::canSave() const
 {
     return m_editor->file() && (m_editor->isModified() || isGone(m_editor->file()));

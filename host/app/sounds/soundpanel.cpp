@@ -20,8 +20,8 @@ using Zorv::RowList;
 
 namespace {
 
-constexpr int UsesDelay = 200;  // milliseconds, for many changes at once
-constexpr int ListShare = 2;    // of three parts of the height
+constexpr int UsesDelay = 200;  // milliseconds; merges many changes
+constexpr int ListShare = 2;    // two thirds of the height
 
 QString textOf(const Family::SoundUse& use)
 {
@@ -30,7 +30,7 @@ QString textOf(const Family::SoundUse& use)
              QString::number(use.place.line + 1));
 }
 
-/// What the panel may be too narrow for, and what the move shows.
+/// The full text, in case the panel is too narrow, and the animation of the move.
 QString tipOf(const Family::SoundUse& use)
 {
     return use.animation.isEmpty()
@@ -149,7 +149,7 @@ QVector<Family::SoundUse> SoundPanel::findUses() const
     return names.soundUses(sound->id().group, sound->id().number);
 }
 
-/// A list that is the same keeps its current row.
+/// If nothing changed, the list keeps its current row.
 void SoundPanel::updateUses()
 {
     if (!isVisible()) {
@@ -177,7 +177,7 @@ void SoundPanel::updateUses()
                                            : tr("Played by:"));
 }
 
-/// The lines may have changed since they were looked for.
+/// Searches again, because the lines may have changed since.
 void SoundPanel::activateUse(int row)
 {
     const QString wanted = m_uses->item(row)->text();

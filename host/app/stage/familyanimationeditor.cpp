@@ -36,16 +36,16 @@ using Zorv::GraphicsRenderer;
 
 namespace {
 
-// On the secondary cross, and not to be moved by itself: a drag takes the cross along.
+// Attached to the secondary cross and not movable by itself: dragging it moves the cross.
 constexpr int SpriteMode = 2;
 constexpr int SpriteParent = 1;
 
-// On the main cross, which is not to be moved.
+// Attached to the main cross, which cannot be moved.
 constexpr unsigned char AxisMode = 1;
 
 constexpr double ScaleStep = 0.1;
 
-/// Also for a text without anything.
+/// True also for an empty text.
 bool endsInEmptyLine(const QTextDocument& text)
 {
     const QTextBlock last = text.lastBlock();
@@ -247,7 +247,7 @@ bool FamilyAnimationEditor::newAnimationData(QString& identifier, QString& text,
     identifier = dialog.identifier();
     position = dialog.position();
     text = list->animationTemplate().arg(identifier);
-    // An empty line sets it off from the others.
+    // An empty line separates it from the others.
     if (position < list->count()) {
         text += QLatin1Char('\n');
     } else if (!endsInEmptyLine(*document())) {

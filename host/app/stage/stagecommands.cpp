@@ -94,7 +94,7 @@ StageCommands::StageCommands(const WindowServices& services, QSplitter* page,
     services.window->installEventFilter(this);
 }
 
-// The editor lets go of the workspace, and that of the renderer, while all of them are there.
+// The editor must release the workspace, and the workspace the renderer, while all of them exist.
 StageCommands::~StageCommands()
 {
     m_editor->setText(nullptr);
@@ -127,7 +127,7 @@ void StageCommands::connectStage()
 {
     StatusFields* status = m_services.status;
     connect(m_view, &StageView::placed, this, [this] {
-        // As the person has left it, in the last session.
+        // As the user left it in the last session.
         m_sight->keepPlaceOf(Zorv::Interface::instance()->option(TextKey).toString());
         m_sight->bringSoon();
     });
@@ -161,7 +161,7 @@ void StageCommands::connectStage()
     }
 }
 
-/// Behind the tools of the library, which have come meanwhile.
+/// After the library's tools, which were added meanwhile.
 void StageCommands::giveTexts()
 {
     if (!m_view->bar()->findChild<QToolButton*>(QLatin1String(zoomButtons[0].name))) {
@@ -186,7 +186,7 @@ void StageCommands::addOnionMenu()
     auto* menu = new QMenu(m_view);
     auto* content = new QWidgetAction(menu);
     content->setDefaultWidget(m_onion);
-    content->setVisible(true);  // the page was hidden till now
+    content->setVisible(true);  // the page was hidden until now
     menu->addAction(content);
     button->setMenu(menu);
     button->setPopupMode(QToolButton::MenuButtonPopup);
@@ -286,7 +286,7 @@ void StageCommands::showStage()
     choose(action("view_stage")->isChecked());
 }
 
-/// Texts with animations come with the stage from now on, or without it.
+/// From now on, texts with animations appear with the stage, or without it.
 void StageCommands::choose(bool isStage)
 {
     action("view_stage")->setChecked(isStage);
@@ -332,7 +332,7 @@ void StageCommands::leaveModeOrStage(bool isFree)
     isFree ? m_services.jumps->showMiddle() : leaveMode();
 }
 
-/// The sprite may be turned or mirrored: what is seen is looked for in its pose.
+/// The sprite may be rotated or mirrored, so the pixel is looked up in its pose.
 void StageCommands::colorCaptured()
 {
     const Family::FrameNode* frame = m_editor->frame();
@@ -361,7 +361,7 @@ void StageCommands::followState()
     }
 }
 
-/// The person moves the tick by hand: the text follows.
+/// The user moves the tick, and the text follows.
 void StageCommands::leadText()
 {
     const Family::FrameNode* frame = m_editor->frame();
@@ -375,7 +375,7 @@ void StageCommands::leadText()
     }
 }
 
-/// That of the editor, which has it before the other parts are told.
+/// The editor's document: it is set before the other parts are notified.
 FamilyDocument* StageCommands::document() const
 {
     return static_cast<FamilyDocument*>(m_editor->document());
@@ -386,8 +386,8 @@ QString StageCommands::shownFile() const
     return document() ? document()->fileName() : QString();
 }
 
-/// An animation without frames among others leaves the stage as it is: the text would jump under
-/// the hands of who types one.
+/// An empty animation among others does not hide the stage: the text would jump while the user
+/// types the first frame.
 void StageCommands::takeRoom()
 {
     m_view->setEmpty(!m_editor->frame() && !hasFrames(document()));
@@ -415,7 +415,7 @@ QString StageCommands::fault() const
                                         : QString();
 }
 
-/// A dialog comes up: nothing moves behind it.
+/// Stops playing when a dialog opens.
 bool StageCommands::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::WindowBlocked && m_editor->isPlaying()) {

@@ -13,9 +13,9 @@ namespace App {
 namespace {
 
 constexpr int WheelStep = 120;
-constexpr int HighestByWheel = 9;  // higher ones are for keys
+constexpr int HighestByWheel = 9;  // higher levels only by keys
 
-/// The setting "zoom_center": both modes of the library, and for the wheel a third.
+/// Values of the setting "zoom_center": the library's two modes, and a third one for the wheel.
 constexpr int ZoomAboutPointer = 2;
 
 int zoomCenter()
@@ -23,8 +23,8 @@ int zoomCenter()
     return Zorv::Interface::instance()->option(QStringLiteral("zoom_center")).toInt();
 }
 
-/// A zoom about the middle of the widget. By itself it moves nothing that hangs on the origin, and
-/// so nothing that stands on this stage.
+/// Zooms around the middle of the widget. The library's own mode does not move what is attached to
+/// the origin, which is everything on this stage.
 class Zooming
 {
 public:
@@ -49,7 +49,7 @@ private:
 
 void StageRenderer::keyPressed(int key, Qt::KeyboardModifiers modifiers)
 {
-    // A plus needs the shift key on many keyboards.
+    // "+" needs Shift on many keyboards.
     const bool isPlain = !(modifiers & ~(Qt::KeypadModifier | Qt::ShiftModifier));
     if (isPlain && takeKey(key)) {
         return;
@@ -99,7 +99,7 @@ void StageRenderer::mouseReleased(QPoint pos, Qt::MouseButton button,
                                   Qt::KeyboardModifiers modifiers)
 {
     m_pointer = pos;
-    // Any button would end a drag, and what was dragged would not come into the text.
+    // Any other button would end the drag, and the result would not reach the text.
     const bool endsDrawing = button == Qt::RightButton && clickMode() == DrawContactBoxMode;
     if (m_isHeld && button != Qt::LeftButton && !endsDrawing) {
         return;
@@ -116,7 +116,7 @@ void StageRenderer::mouseMoved(QPoint pos, Qt::KeyboardModifiers modifiers)
 
 void StageRenderer::mouseWheel(int delta)
 {
-    // Touch pads and fine wheels turn by parts of a step.
+    // Touch pads and high-resolution wheels send parts of a step.
     m_turned += delta;
     const int steps = m_turned / WheelStep;
     m_turned %= WheelStep;
@@ -132,7 +132,8 @@ void StageRenderer::mouseWheel(int delta)
     }
 }
 
-/// To and fro comes out at the same place: what is rounded is the origin alone.
+/// Zooming in and out again returns to the same place: only the origin is rounded, never the point
+/// under the pointer.
 void StageRenderer::turnAboutPointer(int delta)
 {
     if (m_held.pointer != m_pointer || m_held.origin != origin()) {

@@ -16,8 +16,8 @@ namespace App {
 namespace {
 
 const QString ShareKey = QStringLiteral("stage_share");
-constexpr int LinesOfText = 18;       // that a stage leaves at first, where it can
-constexpr double LargestShare = 0.6;  // that it takes at first
+constexpr int LinesOfText = 18;       // lines left by the stage at first, if possible
+constexpr double LargestShare = 0.6;  // of the height, at first
 
 }  // namespace
 
@@ -39,7 +39,7 @@ void StageRoom::update()
     m_isFull = isFull;
     m_isNeeded = isFull;
     m_view->setMaximumHeight(isFull ? QWIDGETSIZE_MAX : m_view->minimumSizeHint().height());
-    // The text gets its own parts first.
+    // Deferred, because the text must get its own widgets first.
     QMetaObject::invokeMethod(
         this, [this] { apply(); }, Qt::QueuedConnection);
 }
@@ -50,7 +50,7 @@ void StageRoom::keep()
     Zorv::Interface::instance()->setOption(ShareKey, m_share > 0 ? QVariant(m_share) : QVariant());
 }
 
-/// What the person has made of the stage while it was there.
+/// Remembers the height that the user gave the stage.
 void StageRoom::note()
 {
     if (m_isFull && !m_isNeeded && m_splitter->height() > 0) {
@@ -73,7 +73,7 @@ void StageRoom::apply()
 
 int StageRoom::usualHeight() const
 {
-    // A long line brings the lower scroll bar.
+    // A long line shows the horizontal scroll bar.
     const int around = m_splitter->widget(1)->height() - m_editor->height() +
                        m_editor->horizontalScrollBar()->sizeHint().height();
     const int lines = LinesOfText * m_editor->fontMetrics().height() +

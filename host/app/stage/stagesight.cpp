@@ -16,10 +16,10 @@ namespace App {
 
 namespace {
 
-constexpr int Margin = 4;  // around what comes into sight
+constexpr int Margin = 4;  // around the visible frame
 constexpr int RulerWidth = 30;
 
-/// By how much a range has to be moved to lie inside of another, or in its middle if it is longer.
+/// How far to move a range so that it lies inside another, or in its middle if it is longer.
 int wayInto(int first, int last, int from, int to)
 {
     if (last - first > to - from) {
@@ -45,11 +45,11 @@ QRect StageSight::areaOf(const Family::FrameNode& frame, const Family::SpriteCol
     Family::FrameStyle style;
     style.parts = Family::FrameStyle::Sprite | Family::FrameStyle::Boxes;
     style.zoom = zoom;
-    QString error;  // a sprite that is missing takes no room
+    QString error;  // a missing sprite takes no space
     return Family::FrameComposer(sprites, style).bounds(frame, &error);
 }
 
-/// Also without a frame, or one of which nothing is to be seen.
+/// True also without a frame, or if the frame shows nothing.
 bool StageSight::isWhole() const
 {
     const Family::FrameNode* frame = m_editor->frame();
@@ -76,8 +76,8 @@ void StageSight::follow()
     }
 }
 
-/// The stage may have to get its room first: fitted into the line that it had while it was empty, a
-/// frame would be as small as can be.
+/// Deferred until the stage has its size: fitted into the one-line height of an empty stage, the
+/// frame would be tiny.
 void StageSight::bringSoon()
 {
     if (!m_isPending) {
@@ -116,8 +116,8 @@ void StageSight::bring()
     m_wasWhole = isWhole();
 }
 
-/// Moves the view no farther than it takes. A frame that is too large is made smaller, and what is
-/// too large at the smallest zoom stands in the middle.
+/// Moves the view as little as possible. Zooms out if the frame is too large; centres it if it does
+/// not fit at the smallest zoom.
 void StageSight::moveInto(const Family::FrameNode& frame)
 {
     const QRect sight = this->sight().adjusted(Margin, Margin, -Margin, -Margin);
@@ -134,7 +134,7 @@ void StageSight::moveInto(const Family::FrameNode& frame)
                               wayInto(area.top(), area.bottom(), sight.top(), sight.bottom())));
 }
 
-/// Nothing can be pressed where rulers stand, shown or not.
+/// Excludes the area of the rulers, shown or not: nothing can be clicked there.
 QRect StageSight::sight() const
 {
     return m_stage->widget() ? m_stage->widget()->rect().adjusted(RulerWidth, RulerWidth, 0, 0)

@@ -90,7 +90,7 @@ void StageView::setFault(const QString& text)
     m_fault->setText(text);
 }
 
-/// The stage itself is worth more than what is around it.
+/// The stage is more important than the bar and the time line.
 void StageView::showWhatFits()
 {
     m_bar->setVisible(!m_isEmpty &&
@@ -137,7 +137,7 @@ void StageView::keyPressEvent(QKeyEvent* event)
     }
 }
 
-/// What stands on the stage stays in sight when panels move, and at the next start.
+/// Keeps the contents in view when panels change size, and at the next start.
 void StageView::keepOrigin(QSize size)
 {
     if (size.isEmpty()) {
@@ -157,10 +157,10 @@ void StageView::keepOrigin(QSize size)
     }
 }
 
-/// Where it was on a stage of that size; as it was put here last with an empty one.
+/// `origin` is a place on a stage of `size`; an empty size keeps the last place set here.
 void StageView::placeOrigin(QPoint origin, QSize size)
 {
-    // One that was put here keeps its share, or what is rounded would add up.
+    // An origin set here keeps its exact fraction, or rounding errors would add up.
     if (!size.isEmpty()) {
         m_originShare = {origin.x() / double(size.width()), origin.y() / double(size.height())};
     }

@@ -28,7 +28,7 @@ constexpr double HeadText = 1.25;
 
 struct ButtonRow
 {
-    const char* action;  ///< of the window
+    const char* action;  ///< name of a window action
     const char* text;
     const char* about;
 };
@@ -88,7 +88,7 @@ StartPage::StartPage(const WindowServices& services)
     auto* sides = new QWidget;
     auto* around = new QHBoxLayout(sides);
     around->addWidget(page, 1);
-    // A small window scrolls.
+    // The page scrolls in a small window.
     auto* area = new QScrollArea;
     area->setFrameShape(QFrame::NoFrame);
     area->setWidgetResizable(true);
@@ -142,7 +142,7 @@ QVector<PanelPlace> StartPage::places()
 void StartPage::fillRecent()
 {
     for (QCommandLinkButton* game : qAsConst(m_games)) {
-        game->deleteLater();  // it may be the one that was clicked on
+        game->deleteLater();  // it may be the clicked one
         game->hide();
         m_recentLayout->removeWidget(game);
     }
@@ -172,7 +172,7 @@ void StartPage::showEvent(QShowEvent* event)
 {
     fillRecent();
     QWidget::showEvent(event);
-    // What had the keyboard may just have been closed.
+    // The focused widget may just have been closed.
     QTimer::singleShot(0, this, [this] {
         if (isVisible() && window()->isActiveWindow() &&
             (!window()->focusWidget() || !window()->focusWidget()->isVisible())) {

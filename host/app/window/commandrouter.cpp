@@ -74,7 +74,7 @@ QVector<ActionRow> CommandRouter::actions()
     // clang-format on
 }
 
-/// A menu or a dialog that is open stands before the panel that it was opened for.
+/// Ignores the focus of menus and dialogs: commands are for the panel behind them.
 void CommandRouter::follow(QWidget* focus)
 {
     if (focus && focus->window() == m_services.window && focus != m_focus) {
@@ -116,7 +116,7 @@ bool CommandRouter::isAllowed(Command command) const
 
 void CommandRouter::run(Command command) const
 {
-    // It can have changed since the action was enabled.
+    // The state can have changed since the action was enabled.
     const CommandRow row = rowOf(command);
     if (row.run && (!row.isAllowed || row.isAllowed())) {
         row.run();
@@ -134,7 +134,7 @@ void CommandRouter::retranslate()
     updateState();
 }
 
-/// "Undo: Move box".
+/// Shows the step in the menu: "Undo: Move box".
 void CommandRouter::showTitle(const char* action, Command command)
 {
     const CommandRow row = rowOf(command);

@@ -36,7 +36,7 @@ bool isUsable(const Editor* editor)
     return !action || (action->isVisible() && action->isEnabled());
 }
 
-/// The area of the tools that are named after an editor or a panel.
+/// The area of the tools named after an editor or a panel.
 QString areaOfTools(const QString& name)
 {
     return QLatin1String(placeOf(name + QLatin1Char('_')).area);
@@ -61,7 +61,7 @@ CommandRows editorCommands(Editor* editor)
     return rows;
 }
 
-/// The files of a project that editors fetch from it.
+/// The files of a project that editors work on.
 QVector<const ProjectFile*> filesOf(const Zorv::Project* project)
 {
     QVector<const ProjectFile*> files;
@@ -148,8 +148,8 @@ ExtraEditor* EditorRegistry::panel(int index) const
     return m_panels.value(index);
 }
 
-/// An editor that is activated by hand comes here by itself, and so does one that is activated
-/// here: the second call finds the work in hand.
+/// Activating an editor calls this function again, from here or from elsewhere. `m_activating`
+/// guards against that re-entrance.
 void EditorRegistry::activate(Editor* editor)
 {
     if (!has(editor) || !isUsable(editor) || editor == m_activating) {
@@ -189,7 +189,7 @@ void EditorRegistry::showWorkspace(Workspace* workspace)
     showWorkspaces({workspace, found->place.second});
 }
 
-/// One that stays notices nothing.
+/// Workspaces that stay visible are not touched.
 void EditorRegistry::showWorkspaces(const QVector<Workspace*>& workspaces)
 {
     const QVector<QPointer<Workspace>> before = m_workspaces;
@@ -223,7 +223,7 @@ QWidget* EditorRegistry::focusTarget() const
     return m_field && m_field->focusProxy() ? m_field->focusProxy() : m_field.data();
 }
 
-/// What is looked for is asked once, and then taken again.
+/// Asks for the text to find once, and reuses it afterwards.
 void EditorRegistry::find(Editor* editor, bool isAgain, unsigned flags)
 {
     if (!isAgain || m_sought.isEmpty()) {
@@ -259,7 +259,7 @@ CommandRows EditorRegistry::commands()
     return rows;
 }
 
-/// The editor in front has nothing to work on any more.
+/// The current editor has nothing to work on any more.
 void EditorRegistry::leave()
 {
     const QPointer<Editor> before = std::exchange(m_current, nullptr);

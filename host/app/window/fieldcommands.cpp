@@ -13,7 +13,7 @@ namespace App {
 
 namespace {
 
-// Both have these slots, and no class in common that declares them.
+// Line edits and text edits both have these slots, but no common base class declares them.
 const struct
 {
     Command command;
@@ -23,7 +23,7 @@ const struct
     {Command::Copy, "copy"}, {Command::Paste, "paste"}, {Command::SelectAll, "selectAll"},
 };
 
-/// The line of a spin box is a part of it, which has the keyboard in its place.
+/// Inside a spin box or combo box, the line edit has the focus.
 QWidget* fieldOf(QWidget* widget)
 {
     if (qobject_cast<QAbstractSpinBox*>(widget) || qobject_cast<QComboBox*>(widget)) {

@@ -22,7 +22,7 @@ void goToPanel(const QVector<PanelPlace>& places, int step)
     QVector<QWidget*> shown;
     int current = -1;
     for (const PanelPlace& place : places) {
-        // A panel behind another tab counts as visible, at a place outside of the window.
+        // A panel behind another tab counts as visible for Qt, but lies outside the window.
         if (place.field && !place.field->visibleRegion().isEmpty()) {
             const bool isHere = focus && (place.area == focus || place.area->isAncestorOf(focus));
             current = isHere ? shown.size() : current;

@@ -42,7 +42,7 @@ void PartList::begin()
     showDocument(nullptr);
 }
 
-// Views go before what they show.
+// Clear the views before what they show is destroyed.
 void PartList::end()
 {
     m_session->disconnect(this);
@@ -117,7 +117,7 @@ void PartList::forgetProject(FamilyProject* project)
     if (m_shown == project) {
         showProject(nullptr);
     }
-    // The project itself goes after this: what is left is looked at then.
+    // The project is destroyed after this call; update when it is gone.
     updateSoon();
 }
 
@@ -129,7 +129,7 @@ void PartList::showProject(FamilyProject* project)
     }
 }
 
-/// A file that is read brings thousands of rows one by one.
+/// Reading a file reports thousands of rows one by one.
 void PartList::updateSoon()
 {
     if (!m_isUpdatePending) {

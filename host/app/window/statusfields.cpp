@@ -40,7 +40,7 @@ QString stateOf(const Family::FamilyDocument* document)
                                           : StatusFields::tr("Saved");
 }
 
-/// Sprites and sounds are seen beside the text.
+/// The state also covers the sprites and sounds of the text's project.
 QString stateWithAssets(const Family::FamilyDocument* document)
 {
     QStringList parts{stateOf(document)};
@@ -54,7 +54,7 @@ QString stateWithAssets(const Family::FamilyDocument* document)
     return parts.join(QLatin1String(", "));
 }
 
-/// What is read aloud says what the text is, and the text.
+/// A screen reader says what the field is, then its text.
 void setText(QLabel* label, const QString& text, const QString& name)
 {
     label->setText(text);
@@ -120,7 +120,7 @@ void StatusFields::showDocument(Family::FamilyDocument* document)
     updateFile();
 }
 
-/// The file can have another folder.
+/// The file may be in another folder now.
 void StatusFields::gameChanged()
 {
     showDocument(m_document);
@@ -227,7 +227,7 @@ QToolButton* StatusFields::addButton(const char* name)
     return button;
 }
 
-/// A file that goes away is seen by its folder.
+/// Watches the folder, which reports that a file was deleted.
 void StatusFields::watchFolder()
 {
     const QStringList old = m_watcher->directories();
