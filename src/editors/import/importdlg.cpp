@@ -80,7 +80,7 @@ public:
     ImportDlg* q;
     Zorv::Interface* host;
     Project* destination;
-    QVector<QPointer<Project>> projects;  // of the rows of `projectBox`
+    QVector<QPointer<Project>> projects;  // per row of `projectBox`
     ImportSource* source = nullptr;
     ImportModel* model = nullptr;
     QComboBox* projectBox = nullptr;
@@ -255,7 +255,8 @@ void ImportDlgPrivate::offerProjects()
     }
 }
 
-/// A project that dies is known by its place alone.
+/// Removes deleted projects. Their pointers are already null, so they are found by
+/// position.
 void ImportDlgPrivate::forget()
 {
     for (int row = projects.size() - 1; row >= 0; --row) {

@@ -20,11 +20,11 @@ class Project;
 
 class ImportDlgPrivate;
 
-/// Lets a person choose what is imported from another open project, and what it is called here.
+/// Lets the user choose what to import from another open project, and the new identifiers.
 ///
-/// What there is stands in one list, what is to come in another; a dialog for a kind of things
-/// derives from it. Projects may close while it is open: with the source what was chosen goes, with
-/// the destination the dialog does. Main thread only.
+/// One list has what is available, another what was chosen. Derive from it for each kind of things.
+/// Projects may close while it is open: if the source closes, its choices vanish; if the
+/// destination closes, so does the dialog. Main thread only.
 class ZORV_EXPORT ImportDlg : public QDialog
 {
     Q_OBJECT
@@ -32,44 +32,44 @@ class ZORV_EXPORT ImportDlg : public QDialog
 public:
     ~ImportDlg() override;
 
-    /// False, after a warning, if the host has no other project open than the destination.
+    /// Returns false, after a warning, if the host has no open project besides the destination.
     static bool hasSource(const Zorv::Interface* host);
 
-    /// What was chosen, all of one project. Null, and nothing, if that has gone.
+    /// The choice, all from one project. Null and empty if that project was closed.
     struct Info
     {
         QPointer<Zorv::Project> source;
         QVector<Zorv::ImportEntry> entries;
-        Zorv::ImportConflict conflicts;  ///< what happens to names that are there already
+        Zorv::ImportConflict conflicts;  ///< what to do with existing identifiers
     };
     Info getInfo() const;
 
 protected:
-    /// Of pictures of rows, in pixels at 96 dots an inch.
+    /// The side of row pictures, in pixels at 96 dpi.
     static constexpr int PictureSide = 48;
 
-    /// All open projects of the host are offered but `destination`; null offers all. An override's
-    /// constructor ends in `start()`.
+    /// Offers all open projects of the host except `destination`; null offers all. The constructor
+    /// of a derived class must end with `start()`.
     ImportDlg(Zorv::Interface* host, Zorv::Project* destination);
 
-    /// Fills the lists, with pictures of so many pixels each way; 0 for none.
+    /// Fills the lists, with square pictures of this many pixels; 0 for none.
     void start(int pictureSide);
 
-    /// Puts a widget below the lists.
+    /// Adds a widget below the lists.
     void addOption(QWidget* widget);
 
-    /// The destination has other identifiers than before.
+    /// Call when the identifiers of the destination have changed.
     void readPresent();
 
-    /// The lists of a project that hold what can be imported. They tell of each change; a row's
-    /// text is `Qt::DisplayRole`.
+    /// The lists of a project with things to import. They must signal each change; the text of a
+    /// row is `Qt::DisplayRole`.
     virtual QVector<QAbstractItemModel*> lists(const Zorv::Project* project) const = 0;
 
-    /// Of a row of these lists; the picture is null for none.
+    /// Identifier and picture of a row of these lists; a null picture for none.
     virtual QString identifier(const QModelIndex& index) const = 0;
     virtual QImage picture(const QModelIndex& index) const;
 
-    /// The identifiers that the destination has, and whether it could have one.
+    /// The identifiers in the destination, and whether an identifier could be used there.
     virtual QSet<QString> present() const = 0;
     virtual bool isUsable(const QString& identifier) const = 0;
 

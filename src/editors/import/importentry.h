@@ -5,18 +5,19 @@
 
 namespace Zorv {
 
-/// A row of another project's list that is to be taken over, and what it is to be called.
+/// A row of another project's list that will be imported, and its new identifier.
 ///
-/// The row goes with its list: it is invalid when that, or what stands there, has gone.
+/// The row dies with its list: it becomes invalid when the list, or the thing in the row, is
+/// deleted.
 struct ImportEntry
 {
     QPersistentModelIndex source;
     QString identifier;
 };
 
-/// What happens to an entry whose identifier the destination has already.
+/// What to do with an entry whose identifier already exists in the destination.
 enum class ImportConflict {
-    Replace,  ///< it takes the place of the first one there
+    Replace,  ///< it replaces the first one with that identifier
     Skip      ///< it is not added
 };
 

@@ -139,7 +139,8 @@ void ImportModel::count(int first, int last, int step)
     }
 }
 
-/// Which others an entry clashes with is of no matter to views: they paint what is in sight.
+/// Marks all rows as changed: views repaint only visible ones, so finding the affected rows is not
+/// worth it.
 void ImportModel::tellAll()
 {
     if (!m_entries.isEmpty()) {

@@ -10,12 +10,12 @@
 
 #include <functional>
 
-/// What a person has chosen to import: rows of lists of another project, each with the identifier
-/// that it is to have, which can be edited.
+/// What the user has chosen to import: rows of another project's lists, with their new identifiers,
+/// which can be edited.
 ///
-/// It knows neither animations nor sounds. An entry whose row goes, with its list or without, goes
-/// too. An identifier that the destination has, or another entry, is marked as a clash: it may be
-/// meant. Main thread only.
+/// It knows nothing about animations or sounds. An entry is removed when its row or list dies. An
+/// identifier that already exists in the destination, or in another entry, is only marked as a
+/// clash: it may be intended. Main thread only.
 class ZORV_EXPORT ImportModel : public QAbstractListModel
 {
     Q_OBJECT
@@ -36,32 +36,32 @@ public:
     /// The identifiers that the destination has.
     void setPresent(const QSet<QString>& identifiers);
 
-    /// Tells which identifiers can be used; without it any that is not empty.
+    /// Sets the check for usable identifiers; without it any non-empty identifier is usable.
     void setCheck(std::function<bool(const QString& identifier)> isUsable);
 
-    /// Adds entries behind the others.
+    /// Appends entries.
     void add(const QVector<Zorv::ImportEntry>& entries);
     void clear();
     const QVector<Zorv::ImportEntry>& entries() const { return m_entries; }
 
-    /// How many entries clash.
+    /// The number of entries that clash.
     int clashCount() const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
 
-    /// The identifier; what is wrong with it as an icon and tool tip, else the picture of its row.
+    /// The identifier. For a clash an icon and a tool tip, else the row's picture.
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
-    /// Takes an identifier, without blanks around it. False, and no change, for one that cannot be
-    /// used, which `refused()` tells.
+    /// Sets an identifier, trimmed. If it is unusable, emits `refused()`, changes nothing and
+    /// returns false.
     bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
     bool removeRows(int row, int count, const QModelIndex& parent = {}) override;
 
 signals:
     void refused(const QString& identifier);
 
-    /// Entries have come, gone, or clash otherwise than before.
+    /// Entries were added or removed, or clash differently.
     void clashesChanged();
 
 private:
@@ -73,7 +73,7 @@ private:
 
     QVector<Zorv::ImportEntry> m_entries;
     QSet<QString> m_present;
-    QHash<QString, int> m_counts;  // how many entries have each identifier
+    QHash<QString, int> m_counts;  // number of entries with each identifier
     QSet<const QObject*> m_followed;
     std::function<bool(const QString&)> m_isUsable;
 };

@@ -6,7 +6,7 @@ namespace Zorv {
 
 namespace {
 
-/// Makes the texts of this file known to translators.
+/// Gives the texts of this file a translation context.
 class Text
 {
     Q_DECLARE_TR_FUNCTIONS(Zorv::ImportReport)

@@ -4,7 +4,7 @@
 
 namespace Zorv {
 
-/// How many entries of an import met a name that was there already, or could not come.
+/// Numbers of import entries that met an existing identifier or could not be imported.
 struct ImportCounts
 {
     int replaced = 0;
@@ -12,7 +12,7 @@ struct ImportCounts
     int refused = 0;
 };
 
-/// Those that are not zero, a line each for the person.
+/// One line for the user per number that is not zero.
 QStringList importLines(const ImportCounts& counts);
 
 }  // namespace Zorv

@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr int MostPictures = 1000;  // in memory
+constexpr int MostPictures = 1000;  // cached pictures
 
 }  // namespace
 
@@ -72,7 +72,7 @@ QVariant ImportSource::data(const QModelIndex& index, int role) const
                                                     : m_rows[index.row()].data(role);
 }
 
-/// All are of one size, so that rows are, and texts stand below each other.
+/// All pictures have one size, so that rows have one height and texts line up.
 QPixmap ImportSource::picture(int row) const
 {
     if (const QPixmap* known = m_pictures.object(row)) {

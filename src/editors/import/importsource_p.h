@@ -9,10 +9,9 @@
 
 #include <functional>
 
-/// The rows of several lists as one, for views, with pictures that are made as they come into
-/// sight.
+/// Joins the rows of several lists for views. Pictures are created when they become visible.
 ///
-/// Lists may change and die. What a row shows is that of its list, but for the picture.
+/// Lists may change and die. A row shows the data of its list, except for the picture.
 class ImportSource : public QAbstractListModel
 {
     Q_OBJECT
@@ -20,13 +19,13 @@ class ImportSource : public QAbstractListModel
 public:
     using PictureOf = std::function<QImage(const QModelIndex& index)>;
 
-    /// Pictures are at most `side` pixels wide and high; 0 for none.
+    /// Pictures are at most `side` pixels wide and high; 0 for no pictures.
     ImportSource(PictureOf pictureOf, int side, QObject* parent = nullptr);
     ~ImportSource() override;
 
     void setLists(const QVector<QAbstractItemModel*>& lists);
 
-    /// The row of its list.
+    /// The index in the original list.
     QModelIndex sourceOf(int row) const { return m_rows.value(row); }
 
     int rowCount(const QModelIndex& parent = {}) const override;

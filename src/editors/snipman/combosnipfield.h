@@ -4,21 +4,20 @@
 
 #include <QStringList>
 
-/// A field that is chosen from a list: what the person sees, and what goes into the
-/// code for it.
+/// A field with a list of choices: the text that the user sees, and the value for the
+/// code.
 class ZORV_EXPORT ComboSnipField : public SnipField
 {
 public:
-    /// The lists belong together by place. A comma in an item makes two of it as soon
-    /// as the field has been in a file: there is no escape.
+    /// The lists correspond by index. An item with a comma becomes two items after
+    /// saving and loading, because there is no escape.
     ComboSnipField(const QString& fieldName, const QString& fieldTitle, const QStringList& values,
                    const QStringList& titles);
 
-    QStringList itemValues;  ///< what goes into the code
-    QStringList itemTitles;  ///< what is shown, before translation
+    QStringList itemValues;  ///< values inserted into the code
+    QStringList itemTitles;  ///< texts shown, before translation
 
-    /// What an item puts into the code. An item without a value of its own stands for
-    /// its title.
+    /// The value that an item inserts into the code; its title if it has no value.
     QString itemValue(int item) const;
 
     /// "items".

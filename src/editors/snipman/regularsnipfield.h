@@ -2,21 +2,21 @@
 
 #include "editors/snipman/snipfield.h"
 
-/// A field with one value: a text, a whole number or a number.
+/// A field with one value: a text, an integer or a real number.
 class ZORV_EXPORT RegularSnipField : public SnipField
 {
 public:
-    /// `fieldType` is "string", "int" or "float". `defaultValue` is what the input has
-    /// at first: the text itself, or a number with a point as in C.
+    /// `fieldType` is "string", "int" or "float". `defaultValue` is the initial input:
+    /// the text itself, or a number with a decimal point as in C.
     RegularSnipField(const QString& fieldName, const QString& fieldTitle, const QString& fieldType,
                      const QString& defaultValue);
 
     QString value;  ///< the default
 
-    /// The type that it was made with.
+    /// The type given to the constructor.
     QString type() const override;
 
-    /// "value" alone.
+    /// Only "value".
     QString attr() const override;
     SnipField* clone() const override;
 

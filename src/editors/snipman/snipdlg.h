@@ -12,40 +12,38 @@ namespace Zorv {
 class Interface;
 }
 
-/// Edits a snippet: its fields, its code; saves it, shows what it gives, and writes
-/// the file of its texts for translators.
+/// Edits a snippet: its fields and its code. Saves it, previews the result, and writes a
+/// translation file of its texts.
 ///
-/// A dialog that is closed with unsaved changes asks first. It need not be modal, and is
-/// deleted by whoever made it. What goes wrong with files is told through `Dialogs`. Main
-/// thread only.
+/// Closing with unsaved changes asks first. The dialog need not be modal; its creator deletes it.
+/// File errors are reported through `Dialogs`. Main thread only.
 class ZORV_EXPORT SnipDlg : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// Reads the file at `path`, if it is not empty. One that is broken is told and not
-    /// shown; of one with a single flaw (a type that is not known) all is shown that can
-    /// be. The host outlives the dialog.
+    /// Reads the file at `path` unless it is empty. A broken file is reported and not shown. With a
+    /// minor flaw, such as an unknown type, everything usable is shown. The host outlives the
+    /// dialog.
     SnipDlg(const Zorv::Interface* host, const QString& path, QWidget* parent = nullptr);
     ~SnipDlg() override;
 
-    /// The snippet as the file holds it, saved or not. Characters that mean something in
-    /// XML are escaped, and those that XML has no place for are left out.
+    /// The snippet as file content, saved or not. XML special characters are escaped; characters
+    /// that XML does not allow are dropped.
     QString toString() const;
 
-    /// True from an edit to the next save, unless the edit is taken back.
+    /// True after an edit until the next save, unless the edit is undone.
     bool hasUnsavedChanges() const;
 
-    /// Asks about unsaved changes, and closes unless the person wants to stay or the save
-    /// fails.
+    /// Asks about unsaved changes, and closes unless the user cancels or saving fails.
     void reject() override;
 
 signals:
-    /// The person has pressed the button Insert: the text of the snippet, never empty.
+    /// The user has pressed Insert; the text of the snippet, never empty.
     void insertRequested(const QString& text);
 
-    /// The snippet was written to this file. A list of snippets is brought up to date by
-    /// whoever shows it, with `SnippetManager::update()`.
+    /// The snippet was saved to this file. Whoever shows a list of snippets must refresh it with
+    /// `SnippetManager::update()`.
     void saved(const QString& fileName);
 
 private slots:

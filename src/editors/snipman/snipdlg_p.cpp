@@ -21,7 +21,7 @@
 
 namespace {
 
-/// What keeps the names of fields from doing what they are for; empty for nothing.
+/// The problem with field names that makes them useless; empty if there is none.
 QString nameTrouble(const std::vector<const SnipField*>& fields)
 {
     for (size_t later = 1; later < fields.size(); ++later) {
@@ -41,7 +41,7 @@ QString nameTrouble(const std::vector<const SnipField*>& fields)
     return {};
 }
 
-/// The font of the person's code.
+/// The font for code from the user's settings.
 QFont codeFont(const Zorv::Interface* host)
 {
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
@@ -58,14 +58,15 @@ QPlainTextEdit* makeCodeBox(const char* name, const Zorv::Interface* host)
     box->setObjectName(QLatin1String(name));
     box->setFont(codeFont(host));
     box->setLineWrapMode(QPlainTextEdit::NoWrap);
-    // Tabs at the start of a line do not come into the text, so the key is free.
+    // Leading tabs are not part of the text, so the Tab key is free to change the
+    // focus.
     box->setTabChangesFocus(true);
     return box;
 }
 
 QString rawText(const QPlainTextEdit* box)
 {
-    // The plain text of a document has no hard blanks any more.
+    // The document's plain text would lose non-breaking spaces.
     QString text = box->document()->toRawText();
     text.replace(QChar::ParagraphSeparator, QLatin1Char('\n'));
     return text.replace(QChar::LineSeparator, QLatin1Char('\n'));
@@ -238,7 +239,7 @@ QLabel* SnipDlgPrivate::addLabel(QBoxLayout* layout, const QString& text, QWidge
     auto* label = new QLabel(text);
     label->setWordWrap(true);
     label->setBuddy(buddy);
-    // Not every widget is named by its label.
+    // A label does not give every widget an accessible name.
     buddy->setAccessibleName(QString(text).remove(QLatin1Char('&')));
     layout->addWidget(label);
     return label;

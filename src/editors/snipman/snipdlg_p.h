@@ -15,7 +15,7 @@ namespace Zorv {
 class Interface;
 }
 
-/// The widgets of the dialog, and what stands in its file.
+/// The widgets of the dialog, and the saved text of its file.
 class SnipDlgPrivate
 {
 public:
@@ -23,28 +23,29 @@ public:
 
     void build();
 
-    /// Shows a file; false if it cannot be read or is broken, which is told.
+    /// Shows a file. Reports and returns false if it cannot be read or is broken.
     bool load(const QString& fileName);
     QString toString() const;
 
-    /// What the snippet gives, with its fields asked.
+    /// The result of the snippet, after asking for its fields.
     QString result() const;
 
-    /// Takes what is shown for what the file has.
+    /// Marks the shown snippet as saved in this file.
     void setSaved(const QString& fileName);
     void updateTitle();
 
-    /// Where a question for a file begins: the file, or the family's folder of snippets.
+    /// The start path of a file dialog: the file, or the engine family's snippet
+    /// folder.
     QString startPath(const char* suffix) const;
 
-    /// The name in titles.
+    /// The name for window titles.
     QString name() const;
 
     int currentRow() const;
     void selectRow(int row);
     void updateButtons();
 
-    /// Tells of names that hide each other.
+    /// Shows a hint about field names that hide each other.
     void updateHint();
 
     SnipDlg* q;

@@ -4,26 +4,25 @@
 
 #include <QString>
 
-/// A field of a snippet: what the person is asked for when the snippet is used.
+/// A field of a snippet: a value that the user is asked for when the snippet is used.
 ///
-/// In the code "@" and the name stand for the answer. A plain record with what its
-/// kind adds; main thread is not required.
+/// In the code, "@" and the name stand for the value. A plain record; each kind adds
+/// its own data. Any thread.
 class ZORV_EXPORT SnipField
 {
 public:
     SnipField(const QString& fieldName, const QString& fieldTitle);
     virtual ~SnipField();
 
-    QString name;   ///< what stands behind "@"; never empty in a sound snippet
-    QString title;  ///< the label before the input, before translation
+    QString name;   ///< the name after "@"; never empty in a valid snippet
+    QString title;  ///< the label of the input, before translation
 
-    /// What the file has as type: "string", "int", "float" or "items".
+    /// The type in the file: "string", "int", "float" or "items".
     virtual QString type() const = 0;
 
-    /// The attributes of the element in the file that only this kind has, quoted and
-    /// with the characters that mean something in XML escaped.
+    /// The XML attributes that only this kind of field has, quoted and escaped.
     virtual QString attr() const = 0;
 
-    /// A new field that is equal to this one. The caller owns it.
+    /// A copy of this field. The caller owns it.
     virtual SnipField* clone() const = 0;
 };

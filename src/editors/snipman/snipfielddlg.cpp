@@ -14,7 +14,7 @@
 #include <QPushButton>
 #include <QStackedWidget>
 
-/// The pages of inputs stand in the order of the types.
+/// The pages of inputs are in the order of the types.
 class SnipFieldDlgPrivate
 {
 public:
@@ -36,7 +36,7 @@ namespace {
 
 const char* const typeNames[] = {"string", "int", "float", "items"};
 
-/// A row of a form; the label is also what a screen reader says.
+/// Adds a row to a form; screen readers read its label.
 template <typename Widget>
 Widget* addRow(QFormLayout* form, const QString& label, const char* name, Widget* widget)
 {

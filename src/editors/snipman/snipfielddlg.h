@@ -9,26 +9,25 @@
 class SnipField;
 class SnipFieldDlgPrivate;
 
-/// Edits one field of a snippet: its name, title and type, and what a field of that type
-/// has at first. Ok needs a name. What was typed for one type stays while the person looks
-/// at another. Main thread only.
+/// Edits one field of a snippet: name, title, type and default value. OK needs a name. Input for
+/// one type is kept while the user looks at another type. Main thread only.
 ///
-/// It changes no field: the answer is a new one, to be asked for when `exec()` has given
-/// `QDialog::Accepted`. Main thread only.
+/// It changes no field. After `exec()` has returned `QDialog::Accepted`, `getField()` returns a new
+/// one.
 class ZORV_EXPORT SnipFieldDlg : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// Starts with a text field that has neither name nor title nor value.
+    /// Starts with a text field without name, title and value.
     explicit SnipFieldDlg(QWidget* parent);
     ~SnipFieldDlg() override;
 
-    /// Shows a field, which is not kept.
+    /// Shows a field; keeps no reference to it.
     void setField(const SnipField& field);
 
-    /// A new field of the chosen type, which the caller owns. The lines of a list become
-    /// its items; the two texts belong together line by line.
+    /// A new field of the chosen type, owned by the caller. Each line of a list is an item; values
+    /// and titles correspond line by line.
     SnipField* getField() const;
 
 private slots:

@@ -9,10 +9,11 @@
 
 class SnipField;
 
-/// The fields of a snippet as rows, in the order in which they are asked and filled in.
+/// The fields of a snippet as rows, in the order in which they are asked for and filled
+/// in.
 ///
-/// `Qt::DisplayRole` is "@name, title", or without a title the name alone; there are no
-/// other roles. Owns its fields, and tells views of each change. Main thread only.
+/// `Qt::DisplayRole` is "@name, title", or only the name without a title; there are no
+/// other roles. Owns its fields, and notifies views of each change. Main thread only.
 class ZORV_EXPORT SnipFieldsModel : public QAbstractListModel
 {
     Q_OBJECT
@@ -21,20 +22,20 @@ public:
     explicit SnipFieldsModel(QObject* parent = nullptr);
     ~SnipFieldsModel() override;
 
-    /// Puts a field behind the others and takes it over; null is left out.
+    /// Appends a field and takes ownership; ignores null.
     void add(SnipField* field);
 
-    /// Deletes a field. Rows that are not there are left alone, here and below.
+    /// Deletes a field. Invalid rows are ignored, here and below.
     void remove(unsigned row);
 
-    /// Puts the field of row `from` where row `to` is now; those between move by one.
+    /// Moves the field of row `from` to row `to`; those in between shift by one.
     void move(unsigned from, unsigned to);
 
-    /// Puts a field in the place of another, which is deleted, and takes it over; it is
-    /// deleted if there is no such row.
+    /// Replaces and deletes a field, and takes ownership of the new one. Deletes the
+    /// new one if there is no such row.
     void replace(unsigned row, SnipField* field);
 
-    /// The field of a row, null if there is none. It stays the model's.
+    /// The field of a row, null if there is none. The model keeps ownership.
     const SnipField* at(unsigned row) const;
 
     /// All fields, in their order.

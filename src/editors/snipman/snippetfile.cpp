@@ -105,7 +105,7 @@ private:
             m_reader.raiseError(SnippetFile::tr("A list has at most %1 items. Remove some.")
                                     .arg(SnippetFile::MaxItems));
         }
-        // A list that is left out is the same as the other.
+        // A missing list equals the other one.
         return std::make_unique<ComboSnipField>(name, title,
                                                 split(value.isEmpty() ? titles : value),
                                                 split(titles.isEmpty() ? value : titles));

@@ -43,7 +43,7 @@ QWidget* makeNumber(const QString& value)
     return box;
 }
 
-/// So that what is typed first takes the place of the default, as after the key Tab.
+/// Selects the default, so that typing replaces it, as after the Tab key.
 void selectText(QWidget* input)
 {
     if (auto* line = qobject_cast<QLineEdit*>(input)) {
@@ -110,7 +110,7 @@ QStringList SnippetForm::values() const
 
 QString SnippetForm::translated(const QString& text, const QString& fieldName)
 {
-    // The entry of an empty text in a file of translations is its head.
+    // An empty text would look up the header of the translation file.
     return text.isEmpty() ? text
                           : QCoreApplication::translate(Context, text.toUtf8().constData(),
                                                         fieldName.toUtf8().constData());
@@ -123,7 +123,7 @@ void SnippetForm::addRow(QGridLayout* grid, const SnipField& field)
     input->setObjectName(field.name);
     input->setAccessibleName(title);
 
-    // A label with a buddy takes "&" for the mark of an access key.
+    // A label with a buddy treats "&" as the mark of an access key.
     QString text = title.size() > MaxLabel ? title.left(MaxLabel) + QChar(0x2026) : title;
     auto* label = new QLabel(text.replace(QLatin1Char('&'), QLatin1String("&&")));
     label->setTextFormat(Qt::PlainText);

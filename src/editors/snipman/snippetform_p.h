@@ -10,7 +10,7 @@ class SnipField;
 
 namespace Zorv {
 
-/// Asks for the values of the fields of a snippet, a row each; many of them scroll.
+/// Asks for the values of a snippet's fields, one row each; scrolls if there are many.
 class SnippetForm : public QDialog
 {
     Q_OBJECT
@@ -18,16 +18,16 @@ class SnippetForm : public QDialog
 public:
     using Fields = std::vector<std::unique_ptr<SnipField>>;
 
-    /// The fields are looked at here and not kept.
+    /// The fields are only read during the call.
     SnippetForm(QWidget* parent, const QString& title, const Fields& fields);
 
-    /// What goes into the code for each field.
+    /// The value to insert for each field.
     QStringList values() const;
 
-    /// The title of a field, or the text of one of its items, in the person's language.
+    /// The title of a field or one of its items, in the user's language.
     static QString translated(const QString& text, const QString& fieldName);
 
-    /// The context of these texts in files of translations.
+    /// The context of these texts in translation files.
     static const char* const Context;
 
 private:

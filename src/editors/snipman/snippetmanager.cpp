@@ -19,14 +19,14 @@ namespace Zorv {
 
 namespace {
 
-/// Values that contain names of further fields can make a text grow without end.
+/// Limits: values that contain names of later fields can make a text explode.
 constexpr int MaxLength = 4 * 1024 * 1024;
 constexpr int MaxPlaces = 1000 * 1000;
 
-/// Where the host shows a passing text.
+/// The status bar field for temporary messages.
 constexpr int StatusText = 0;
 
-/// True if there is one.
+/// Reports a fault or flaw; true if there is one.
 bool tellFault(const SnippetFile& file, const QString& title)
 {
     const SnippetProblem& problem = file.fault.isThere() ? file.fault : file.flaw;
@@ -38,8 +38,8 @@ bool tellFault(const SnippetFile& file, const QString& title)
     return problem.isThere();
 }
 
-/// Puts values in the place of names. In one walk over the text for each: many places
-/// of `QString::replace()` cost more.
+/// Replaces names by values. Builds the result in one pass per name: with many places,
+/// `QString::replace()` costs more.
 class Filling
 {
 public:
@@ -47,7 +47,7 @@ public:
 
     QString text() const { return m_text; }
 
-    /// False if the text grows too large; it is of no use then.
+    /// False if the text grows too large; do not use it then.
     bool replace(const QString& key, const QString& value)
     {
         const QStringMatcher matcher(key);
@@ -98,7 +98,7 @@ QString shownName(const QString& name)
     return SnippetForm::translated(name, QStringLiteral("snippet"));
 }
 
-/// By what the person reads.
+/// Sorts by the displayed names.
 void sortNames(QStringList* names)
 {
     QCollator order;
@@ -109,7 +109,7 @@ void sortNames(QStringList* names)
                      });
 }
 
-/// The text with all messages of a snippet for translators.
+/// The translation source with all texts of a snippet.
 QString translationSource(const SnippetFile& file)
 {
     QString result = QLatin1String("<?xml version=\"1.0\" encoding=\"utf-8\"?>\n<!DOCTYPE TS>\n"
@@ -149,7 +149,7 @@ void SnippetManager::update(const QString& folder)
         m_names.clear();
         endRemoveRows();
     }
-    // An empty name would stand for the working directory.
+    // An empty name would mean the working directory.
     const QStringList files =
         folder.isEmpty() ? QStringList() : QDir(folder).entryList(QDir::Files | QDir::Readable);
     if (files.isEmpty()) {
@@ -176,7 +176,7 @@ void SnippetManager::retranslate()
     }
     emit layoutChanged({}, VerticalSortHint);
     if (!m_names.isEmpty()) {
-        // For those who show one name only, and do not look at the layout.
+        // For receivers that show a single name and ignore layout changes.
         emit dataChanged(index(0), index(m_names.size() - 1), {Qt::DisplayRole});
     }
 }
@@ -214,9 +214,9 @@ QString SnippetManager::snippet(const Interface& host, const QString& title, con
         return file.plainCode();
     }
     if (!qobject_cast<QApplication*>(QCoreApplication::instance())) {
-        return {};  // nobody is there to answer
+        return {};  // no GUI, so nobody can answer
     }
-    // The window may go, with all that it owns, while the dialog is open.
+    // The window may be deleted, with all its children, while the dialog is open.
     const QPointer<SnippetForm> form = new SnippetForm(windowInFront(host), title, file.fields);
     const bool isAccepted = form->exec() == QDialog::Accepted && form;
     const QStringList values = isAccepted ? form->values() : QStringList();

@@ -9,48 +9,46 @@ namespace Zorv {
 
 class Interface;
 
-/// The snippets of an engine family: the XML files of one folder, a row each, in the
-/// order of the names as they are shown. docs/formats.md tells their format.
+/// The snippets of an engine family: the XML files of one folder, one per row, sorted by displayed
+/// name. docs/formats.md describes the format.
 ///
-/// `Qt::DisplayRole` is the name in the person's language, if the context "Snippets" of
-/// the translations has it with the comment "snippet"; `Qt::EditRole` is the name
-/// itself. Main thread only.
+/// `Qt::DisplayRole` is the name in the user's language, if the translations have it in the context
+/// "Snippets" with the comment "snippet". `Qt::EditRole` is the name itself. Main thread only.
 class ZORV_EXPORT SnippetManager : public QAbstractListModel
 {
     Q_OBJECT
 
 public:
-    /// The one object of the process; empty until `update()`.
+    /// The only object in the process; empty until `update()`.
     static SnippetManager* instance();
 
-    /// Lists the files of a folder anew; a missing one has none.
+    /// Lists the files of a folder again; a missing folder has none.
     void update(const QString& folder);
 
-    /// Has views show the names in the language that is installed now, in its order.
+    /// Updates the names in views, and their order, to the current language.
     void retranslate();
 
     QString folder() const { return m_folder; }
 
-    /// The path of a row's file; empty for a row that is not there.
+    /// The path of a row's file; empty for an invalid row.
     QString fileName(unsigned row) const;
 
-    /// The text of a row's snippet, with the values of its fields asked of the person.
-    /// Empty for a row that is not there, a file that cannot be read, which the status
-    /// bar tells, a person that gives up, and a file that is broken, which is told with
-    /// line and column.
+    /// The text of a row's snippet, after asking the user for the values of its fields. Empty for
+    /// an invalid row, and if the user cancels. Also empty for an unreadable file, which the status
+    /// bar reports, and for a broken file, which is reported with line and column.
     ///
-    /// In the order of the fields each "@" with the field's name is replaced by its value;
-    /// so of two names of which one begins with the other the longer one comes first.
+    /// Fields are replaced in order: each "@" with the field's name becomes its value. So if one
+    /// name begins with another, the longer one has to come first.
     QString snippet(const Interface& host, unsigned row) const;
 
-    /// The same for a snippet at hand. `title` is that of the dialog, which is not shown
-    /// for a snippet without fields.
+    /// The same for a snippet given as text. `title` is the title of the dialog, which is only
+    /// shown if there are fields.
     static QString snippet(const Interface& host, const QString& title, const QString& xml);
 
-    /// Writes the titles of a snippet's fields and items as a Qt translation source to
-    /// `fileName`: the context is "Snippets", the comment of each text the name of its
-    /// field. False if the snippet is broken or the file cannot be written, which is told;
-    /// an old file is whole then.
+    /// Writes the titles of a snippet's fields and items to `fileName` as a Qt translation source.
+    /// The context is "Snippets"; the comment of each text is the name of its field. Reports and
+    /// returns false if the snippet is broken or the file cannot be written; an old file is intact
+    /// then.
     static bool genTS(const Interface& host, const QString& fileName, const QString& xml);
 
     int rowCount(const QModelIndex& parent = {}) const override;

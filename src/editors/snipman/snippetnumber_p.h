@@ -4,14 +4,13 @@
 
 namespace Zorv {
 
-/// Whole numbers and numbers of a snippet lie between this and its negative.
+/// Limit for integer and real snippet values: from minus this to this.
 constexpr int MaxSnippetNumber = 99999999;
 
-/// A number as code has it: with a point, without an exponent, and no more digits than
-/// it takes.
+/// A number formatted for code: decimal point, no exponent, as few digits as possible.
 QString snippetNumber(double value);
 
-/// Shows a number without zeros at its end, however many digits there is room for.
+/// Shows a number without trailing zeros, however many decimals are allowed.
 class SnippetNumberBox : public QDoubleSpinBox
 {
     Q_OBJECT

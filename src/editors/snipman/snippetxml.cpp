@@ -6,7 +6,7 @@ namespace Zorv {
 
 namespace {
 
-/// A reader would stop at these, and with it all of the file would be lost.
+/// An XML reader stops at these characters, and the rest of the file would be lost.
 QString withoutForbidden(QString text)
 {
     static const QRegularExpression forbidden(

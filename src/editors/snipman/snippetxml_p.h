@@ -4,11 +4,11 @@
 
 namespace Zorv {
 
-/// A text as it stands in an attribute, between double quotes: markup and line ends are
-/// escaped, characters that XML has no place for are left out.
+/// Escapes a text for an attribute in double quotes: markup and line ends are escaped,
+/// characters that XML does not allow are dropped.
 QString xmlAttribute(const QString& text);
 
-/// The same for text between elements, where line ends and quotes stay as they are.
+/// The same for text between elements: line ends and quotes stay unchanged.
 QString xmlText(const QString& text);
 
 }  // namespace Zorv

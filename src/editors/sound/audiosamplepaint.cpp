@@ -16,17 +16,17 @@ const QColor levelColor(70, 170, 70);
 
 constexpr int ClipHeight = 4;       // pixels
 constexpr int LevelHeight = 10;     // pixels
-constexpr int MostStrips = 256;     // more are thinner than a pixel
+constexpr int MostStrips = 256;     // further strips would be thinner than a pixel
 constexpr double LevelTime = 0.05;  // seconds
 constexpr double SelectedPart = 0.35;
 
-/// Samples of 20 bits are the upper ones of 24.
+/// 20-bit samples are the upper bits of 24.
 qint64 levelsOf(int bits)
 {
     return Q_INT64_C(1) << (bits == 20 ? 24 : bits);
 }
 
-/// The least and the greatest number of so many bits.
+/// True if a value is the smallest or largest possible number.
 bool isClipped(const WavePyramid::Extremes& found, int bits)
 {
     const qint64 most = levelsOf(bits) / 2 - 1;
@@ -91,7 +91,8 @@ void AudioSampleWidgetPrivate::paintSelection(QPainter* painter) const
     }
 }
 
-/// Strips that are drawn as the widget does at first show the first channel, each a frame later.
+/// Without `trueChannels`, each strip shows the first channel, one frame later than the strip
+/// above.
 void AudioSampleWidgetPrivate::paintChannel(QPainter* painter, int channel, int left, int right)
 {
     const double centre = channelHeight / 2 + channel * channelHeight;
@@ -100,7 +101,7 @@ void AudioSampleWidgetPrivate::paintChannel(QPainter* painter, int channel, int 
     painter->drawPolyline(points.constData(), count);
 }
 
-/// A point for each frame, and one beyond each edge.
+/// One point per frame, plus one beyond each edge.
 int AudioSampleWidgetPrivate::framePoints(QPainter* painter, int channel, double centre, int left,
                                           int right)
 {
@@ -124,7 +125,7 @@ int AudioSampleWidgetPrivate::framePoints(QPainter* painter, int channel, double
     return count;
 }
 
-/// Two points for each pixel, from the least value to the greatest.
+/// Two points per pixel: minimum and maximum.
 int AudioSampleWidgetPrivate::pixelPoints(QPainter* painter, int channel, double centre, int left,
                                           int right)
 {
@@ -150,7 +151,7 @@ int AudioSampleWidgetPrivate::pixelPoints(QPainter* painter, int channel, double
     return count;
 }
 
-/// What is heard about now.
+/// The level of what is heard at the moment.
 void AudioSampleWidgetPrivate::paintLevels(QPainter* painter) const
 {
     const int position = player.position();

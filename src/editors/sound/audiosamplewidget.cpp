@@ -15,10 +15,10 @@ namespace Zorv {
 namespace {
 
 constexpr int LoadDelay = 150;       // milliseconds
-constexpr int SoonShaped = 4 << 20;  // bytes whose shape is made without another thread
+constexpr int SoonShaped = 4 << 20;  // bytes; smaller sounds are scanned in the main thread
 constexpr double LeastVisible = 8;   // frames
 constexpr double ZoomStep = 1.25;
-constexpr double ScrollPart = 0.1;  // of what is seen
+constexpr double ScrollPart = 0.1;  // part of the visible range
 constexpr double WheelStep = 120;
 
 }  // namespace
@@ -52,7 +52,7 @@ AudioSampleWidgetPrivate::AudioSampleWidgetPrivate(AudioSampleWidget* widget) : 
         emit q->stateChanged(state);
     });
     QObject::connect(&player, &SoundPlayer::problemChanged, q, [this] {
-        q->setToolTip(player.problem());  // the line may be too short for it
+        q->setToolTip(player.problem());  // the status line may be too short
         q->update();
         emit q->problemChanged();
     });
@@ -69,7 +69,7 @@ void AudioSampleWidgetPrivate::setPending(const SoundSample& sound,
     loadTimer.start();
 }
 
-/// Unpacking a long sound would be felt.
+/// Uses a worker thread: unpacking a long sound would block the window noticeably.
 void AudioSampleWidgetPrivate::read()
 {
     if (pendingReader) {
@@ -96,7 +96,7 @@ void AudioSampleWidgetPrivate::load()
     player.setSound(sample);
 }
 
-/// A long sound is looked through while the window goes on.
+/// Scans a long sound in a worker thread.
 void AudioSampleWidgetPrivate::takeShape()
 {
     shapeWork.setFuture({});
@@ -130,7 +130,7 @@ void AudioSampleWidgetPrivate::recalculate()
     q->update();
 }
 
-/// Only what the line has left, where it is, and the levels.
+/// Repaints only the old and new place of the playback line, and the levels.
 void AudioSampleWidgetPrivate::moved()
 {
     const int line = lineX();
@@ -159,7 +159,7 @@ void AudioSampleWidgetPrivate::scrollBy(double count)
     q->showFrames(firstFrame + count, visibleFrames);
 }
 
-/// The end of the selection, by keys.
+/// Moves the end of the selection, for keys.
 void AudioSampleWidgetPrivate::moveEdge(int step)
 {
     const int start = selection.isEmpty() ? int(firstFrame) : selection.first;
@@ -199,7 +199,7 @@ const SoundSample& AudioSampleWidget::sample() const
 void AudioSampleWidget::showNow()
 {
     if (d->pendingReader) {
-        // What another thread is about to have is waited for.
+        // If a worker thread is already reading, wait for its result.
         d->pending.data = d->loadTimer.isActive() ? d->pendingReader() : d->reading.result();
         d->pendingReader = {};
         d->load();

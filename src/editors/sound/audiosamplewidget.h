@@ -12,15 +12,15 @@ namespace Zorv {
 
 class AudioSampleWidgetPrivate;
 
-/// The waveform of a sound, a strip for each channel, which it also plays.
+/// The waveform of a sound, one strip per channel, with playback.
 ///
-/// A part can be selected with the mouse: a press and a move select, Shift moves the nearer edge, a
-/// double click takes all, a click nothing. The wheel zooms about the pointer, with Shift it
-/// scrolls; so do the keys Plus, Minus, Left, Right, Home and End, and with Shift Left and Right
-/// change the selection. Samples at the ends of their range are marked at the top of their strip.
-/// Below the strips are the level of what plays, a bar to scroll, and why nothing is heard.
+/// Mouse: dragging selects a part, Shift moves the nearer edge, a double click selects everything,
+/// a click nothing. The wheel zooms at the pointer; with Shift it scrolls. Keys: Plus, Minus, Left,
+/// Right, Home and End zoom and scroll; Shift with Left and Right changes the selection. Clipped
+/// samples, at the ends of their range, are marked at the top of their strip. Below the strips are
+/// the playback level, a scroll bar, and the reason if nothing is heard.
 ///
-/// What it costs to paint does not depend on how long the sound is. Main thread only.
+/// Painting costs the same however long the sound is. Main thread only.
 class ZORV_EXPORT AudioSampleWidget : public QWidget
 {
     Q_OBJECT
@@ -29,55 +29,56 @@ public:
     explicit AudioSampleWidget(QWidget* parent = nullptr);
     ~AudioSampleWidget() override;
 
-    /// Stops, and shows another sound, 150 ms after the last such call: who steps through sounds
-    /// does not wait for each. One of the same form and length keeps selection and zoom.
+    /// Stops, and shows another sound 150 ms after the last such call, so that stepping through
+    /// sounds does not wait for each. A sound with the same form and length keeps selection and
+    /// zoom.
     void setSample(const SoundSample& sample);
 
-    /// The same for samples that `reader` gives: it is called in another thread, once the sound is
-    /// to be shown.
+    /// The same for samples that `reader` returns. It is called in a worker thread when the sound
+    /// is about to be shown.
     void setSample(const SampleInfo& info, const std::function<QByteArray()>& reader);
 
-    /// Shows a sound that waits to be shown.
+    /// Shows a pending sound at once.
     void showNow();
 
-    /// The sound that is shown.
+    /// The sound that is shown now.
     const SoundSample& sample() const;
 
-    /// Plays from the start; a sound that waits to be shown is shown first. Nothing while it plays,
-    /// or without a sound device.
+    /// Plays from the start; shows a pending sound first. Does nothing while it plays, or without a
+    /// sound device.
     void play(bool loop);
     void pause();
     void resume();
     void stop();
 
-    /// Whether it starts over at the end, also while it plays.
+    /// Whether playback starts over at the end. Can be changed during playback.
     void setLooping(bool isLooping);
     SoundSample::State currentState() const;
 
-    /// The frame that is played next; negative without a sound device.
+    /// The next frame to be played; negative without a sound device.
     int position() const;
 
-    /// Why nothing is heard, or not yet, in words for the person; empty if all is well.
+    /// Why nothing is heard, or not yet, as a text for the user; empty if all is well.
     QString problem() const;
 
-    /// At first each strip shows the first channel, a frame later than the strip above it; true
-    /// shows in each its own channel.
+    /// By default every strip shows the first channel, one frame later than the strip above. With
+    /// true each strip shows its own channel.
     void setShowsTrueChannels(bool isTrue);
     bool showsTrueChannels() const;
 
-    /// @name What is seen of the sound, in frames
+    /// @name The visible part of the sound, in frames
     /// @{
     double firstFrame() const;
     double visibleFrames() const;
 
-    /// Cut to the sound; no fewer than 8 frames, or all of a shorter sound.
+    /// Clamped to the sound; at least 8 frames, or all of a shorter sound.
     void showFrames(double first, double count);
-    void zoomActual();  ///< all of it
+    void zoomActual();  ///< the whole sound
     void zoomIn();
     void zoomOut();
     /// @}
 
-    /// In frames; empty for none. Cut to the sound.
+    /// In frames; empty for none. Clamped to the sound.
     SoundRange selection() const;
     void setSelection(SoundRange range);
 

@@ -13,7 +13,7 @@ class QPainter;
 
 namespace Zorv {
 
-/// Below the strips, in pixels.
+/// The room below the strips, in pixels.
 constexpr int RoomBelowStrips = 30;
 
 class AudioSampleWidgetPrivate
@@ -50,10 +50,10 @@ public:
     QTimer loadTimer;
     QScrollBar bar{Qt::Horizontal};
     SoundSample pending;
-    std::function<QByteArray()> pendingReader;  // its samples; empty if they are there
+    std::function<QByteArray()> pendingReader;  // reads the samples; empty if they are loaded
     QFutureWatcher<QByteArray> reading;
     SoundSample sample;
-    std::shared_ptr<const WavePyramid> shape;  // null while it is being made
+    std::shared_ptr<const WavePyramid> shape;  // null while being built
     QFutureWatcher<std::shared_ptr<const WavePyramid>> shapeWork;
     QVector<QPointF> points;
     int frames = 0;
@@ -64,7 +64,7 @@ public:
     double channelHeight = 0;
     int shownLine = -1;
     SoundRange selection;
-    int anchor = -1;  // of the selection while the mouse is pressed
+    int anchor = -1;  // start of the selection while the mouse is pressed
     bool trueChannels = false;
 };
 

@@ -7,8 +7,8 @@
 
 namespace Zorv {
 
-/// Samples of 32 bits as the floats from -1 to 1 that they stand for, for devices that take only
-/// those. What is read goes on in the source, which is not owned.
+/// Converts 32-bit samples to floats from -1 to 1, for devices that accept only floats. Reading
+/// advances the source, which is not owned.
 class ZORV_EXPORT FloatStream : public QIODevice
 {
     Q_OBJECT

@@ -7,16 +7,17 @@
 
 namespace Zorv {
 
-/// A form of samples for a device: plain numbers, those of 8 bits without a sign, or floats.
+/// A sample format for a device: integers (unsigned for 8 bits) or floats.
 struct PlayableForm
 {
-    SampleInfo info;  ///< of floats that of whole numbers of 32 bits; no channels for no form
+    SampleInfo info;  ///< for floats the 32-bit integer form; no channels: no form
     bool isFloat = false;
 };
 
-/// The form nearest to `wanted` that a device takes. `offered` is what the device itself calls the
-/// nearest, which may have samples that are not played here: its rate and channels are tried behind
-/// those wanted. Of the bits first as many as wanted, then more, floats, and fewer.
+/// The closest form to `wanted` that a device accepts. `offered` is what the device itself calls
+/// the closest. Its samples may be of a kind that is not played here, so only its rate and channels
+/// are tried, after the wanted ones; last come 48 and 44.1 kHz in stereo. Sample sizes are tried in
+/// this order: the wanted one, larger ones, floats, smaller ones.
 ZORV_EXPORT PlayableForm playableFormOf(const SampleInfo& wanted, const SampleInfo& offered,
                                         const std::function<bool(const PlayableForm&)>& takes);
 

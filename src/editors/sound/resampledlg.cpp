@@ -16,7 +16,7 @@ namespace {
 const int freqs[] = {8000,  11000, 11025, 12000, 16000, 22050,
                      24000, 32000, 44100, 48000, 96000, 192000};
 
-/// The last one has no item: what it stands for cannot be chosen, and begins at the first.
+/// The last value has no item in the box, so a sound with it starts at the first choice.
 const quint16 bits[] = {8, 16, 24};
 constexpr int ChosenBits = 2;
 

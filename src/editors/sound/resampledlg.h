@@ -10,14 +10,14 @@ class ItemPicker;
 class QAbstractItemModel;
 class QComboBox;
 
-/// Asks for sounds of a list and the form that they get.
+/// Asks which sounds of a list to resample, and to which form.
 class ZORV_EXPORT ResampleDlg : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// `row`, if not negative, is selected at first; the form is that of `info` where it can be
-    /// chosen. The model is not owned, and may die.
+    /// `row` is the initial selection unless negative. The form starts as in `info`, where its
+    /// values are among the choices. The model is not owned, and may die.
     ResampleDlg(QWidget* parent, QAbstractItemModel* sounds, int row, const Zorv::SampleInfo& info);
     ~ResampleDlg() override;
 

@@ -5,7 +5,7 @@
 
 namespace Zorv {
 
-/// The bytes of a sound as a device reads them. A looping one starts over at its end, and never
+/// The bytes of a sound as a stream for a device. A looping stream starts over at its end and never
 /// runs dry.
 class SampleStream : public QIODevice
 {
@@ -14,13 +14,13 @@ class SampleStream : public QIODevice
 public:
     explicit SampleStream(QObject* parent = nullptr);
 
-    /// Other bytes, a whole number of frames, from the start.
+    /// Sets other bytes, a whole number of frames, and rewinds.
     void setBytes(const QByteArray& bytes);
     void rewind() { m_place = 0; }
     void setLooping(bool isLooping) { m_loops = isLooping; }
     bool isLooping() const { return m_loops; }
 
-    /// Where the next read begins.
+    /// The byte position of the next read.
     int place() const { return m_place; }
     bool isAtEnd() const { return m_place >= m_bytes.size() && !m_loops; }
 

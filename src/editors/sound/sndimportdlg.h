@@ -6,16 +6,17 @@ namespace Zorv {
 class Sounds;
 }
 
-/// Chooses sounds of another open project, as `ImportDlg` does.
+/// Chooses sounds from another open project; see `ImportDlg`.
 class ZORV_EXPORT SndImportDlg : public ImportDlg
 {
     Q_OBJECT
 
 public:
-    /// For the sounds of the project in front; their project is not offered.
+    /// Imports into the active project's sounds. That project is not offered as a
+    /// source.
     explicit SndImportDlg(Zorv::Interface* host);
 
-    /// For these sounds.
+    /// Imports into these sounds.
     SndImportDlg(Zorv::Interface* host, Zorv::Sounds* destination);
     ~SndImportDlg() override;
 

@@ -39,7 +39,8 @@ ReadySample readySample(const Sounds* to, const std::function<SoundSample()>& re
 {
     return madeElsewhere<ReadySample>([reader, packer = to->packer()] {
         ReadySample ready{reader(), {}};
-        // A list leaves out what stands behind the last whole frame, and would have to pack anew.
+        // Drop an incomplete frame at the end. The list would do that later, and would have to pack
+        // again.
         const int frame = frameBytesOf(ready.sample);
         ready.sample.data.chop(frame > 0 ? ready.sample.data.size() % frame : 0);
         if (packer) {
@@ -93,14 +94,14 @@ void SoundBatch::run(const QString& title)
     m_reporter = nullptr;
 }
 
-/// One more than there are threads, so that none of them waits for the main thread.
+/// Allows one more than the number of threads, so that no thread waits for the main thread.
 bool SoundBatch::canStart() const
 {
     return m_running <= QThreadPool::globalInstance()->maxThreadCount() && m_next < m_rows.size() &&
            !*m_isCanceled && m_sounds;
 }
 
-/// One sound, whatever else is to be done.
+/// Stores or starts one sound per turn, so that the window stays responsive.
 void SoundBatch::turn()
 {
     if (!m_ready.isEmpty()) {
@@ -160,7 +161,7 @@ void SoundBatch::putBack(const Made& made, int row)
     look();
 }
 
-/// What is in work has copies of all that it needs.
+/// Running workers have copies of all they need, so there is no need to wait.
 void SoundBatch::cancel()
 {
     *m_isCanceled = true;

@@ -21,29 +21,30 @@ class ProgressReporter;
 class Sound;
 class Sounds;
 
-/// A sound that another thread has unpacked, and packed for a collection.
+/// A sound that a worker thread has unpacked, and packed again for a collection.
 struct ReadySample
 {
     SoundSample sample;
     std::shared_ptr<const void> packed;  ///< see `Sounds::packer()`
 };
 
-/// Gives what a reader reads in another thread, while the window is painted: what the person does
-/// waits. Collections, and who calls this, may go meanwhile.
+/// Runs a reader in a worker thread and waits for it, while the window repaints but user input is
+/// held back. The collections and the caller can be destroyed meanwhile.
 SoundSample readElsewhere(const std::function<SoundSample()>& reader);
 
-/// The same, and makes it ready to be stored at little cost.
+/// The same, and also packs the sound in the worker thread, so that storing it is cheap.
 ReadySample readySample(const Sounds* to, const std::function<SoundSample()>& reader);
 
-/// Unpacks a sound as it is now, in any thread, whatever becomes of it meanwhile.
+/// Returns a function that unpacks the sound as it is now. It can run in any thread, even if the
+/// sound changes or dies meanwhile.
 std::function<SoundSample()> readerOf(const Sound& sound);
 
-/// Work on the samples of several sounds, in the threads of the machine.
+/// Processes the samples of several sounds in worker threads.
 ///
-/// There they are unpacked, worked on and packed again; the main thread puts them back, one sound a
-/// turn of the event loop. Only few are in work at a time. It ends early if the person gives up,
-/// the list changes otherwise, or goes: what has been put back by then stays, and what is in work
-/// is not waited for.
+/// The threads unpack, process and pack the samples. The main thread stores the results, one sound
+/// per turn of the event loop. Only a few sounds are in work at a time. The batch ends early if the
+/// user cancels, or if the list changes or dies. Results stored by then stay, and running threads
+/// are not waited for.
 class SoundBatch final : public QObject
 {
     Q_OBJECT
@@ -54,15 +55,15 @@ public:
     SoundBatch(Sounds* sounds, const QVector<int>& rows, Work work);
     ~SoundBatch() override;
 
-    /// Runs an event loop until all is done.
+    /// Runs an event loop until everything is done.
     void run(const QString& title);
 
-    /// Why some sounds stay as they were, each reason once, and how many those are.
+    /// Why some sounds were not changed (each reason once), and how many those are.
     QStringList reasons() const { return m_reasons; }
     int failedCount() const { return m_failed; }
 
 private:
-    /// What a thread has made of a sound.
+    /// The result of one worker thread.
     struct Made
     {
         SoundConversion conversion;
@@ -84,10 +85,10 @@ private:
     ProgressReporter* m_reporter = nullptr;
     QEventLoop m_loop;
     QTimer m_turn;
-    QVector<QPair<Watcher*, int>> m_ready;  // with their rows
+    QVector<QPair<Watcher*, int>> m_ready;  // finished workers and their rows
     int m_next = 0;
     int m_done = 0;
-    int m_running = 0;  // and ready
+    int m_running = 0;  // running and finished workers
     int m_failed = 0;
     QStringList m_reasons;
 };

@@ -14,13 +14,13 @@ class Sounds;
 class SoundWorkspace;
 struct SoundSample;
 
-/// The editor "snd": steps through the sounds of a project, plays, adds, replaces and saves them,
-/// changes their form and parts of them, and takes sounds over from another open project.
+/// The editor "snd": steps through the sounds of a project; plays, adds, replaces and saves them;
+/// changes their form and parts of them; imports sounds from another open project.
 ///
-/// It publishes the tools "snd_..." in the area "sounds". While it is in front, the organizer shows
-/// the sounds. What one action does is one step of undo of the file. What takes long is done in
-/// other threads while the window goes on, and can be cancelled; until it has ended, no other
-/// action changes sounds. Main thread only.
+/// It publishes the tools "snd_..." in the area "sounds". While it is active, the organizer shows
+/// the sounds. Each action is one undo step of the file. Long operations run in worker threads and
+/// can be cancelled while the window stays responsive. Until one ends, no other action can change
+/// sounds. Main thread only.
 class ZORV_EXPORT SoundEditor : public FileEditor
 {
     Q_OBJECT
@@ -30,7 +30,7 @@ public:
     explicit SoundEditor(SoundWorkspace* workspace, QObject* parent = nullptr);
     ~SoundEditor() override;
 
-    /// "editor_snd"; hidden while there are no sounds.
+    /// The action "editor_snd"; hidden while there are no sounds.
     QAction* action() const override;
 
     /// "snd".
@@ -44,70 +44,70 @@ public:
     void deactivate() override;
     void retranslate() override;
 
-    /// Takes up the sounds of the project; null for none.
+    /// Switches to the sounds of a project; null for none.
     void setProject(Project* project) override;
     void projectAboutToClose(Project* project) override;
 
-    /// Shows the sound of a row, `a`.
+    /// Shows the sound of row `a`.
     void navigateTo(const QString& name, unsigned a, unsigned b, unsigned c) override;
     void undo() override;
     void redo() override;
 
-    /// Shows the next sound whose "Identifier" is like the text: a pattern with `*` and `?` for all
-    /// of it, or an expression that is somewhere in it. Upper and lower case differ. Tells if there
-    /// is none.
+    /// Shows the next sound whose "Identifier" matches the text: a wildcard pattern with `*` and
+    /// `?` that must match all of it, or a regular expression that matches any part.
+    /// Case-sensitive. Reports if there is no match.
     void find(const QString& text, unsigned flags) override;
 
-    /// Gives the sound that `find()` would show, or all such sounds, another "Identifier". Of an
-    /// expression what it matches is replaced.
+    /// Changes the "Identifier" of the sound that `find()` would show, or of all such sounds. A
+    /// regular expression replaces only the part that it matches.
     void replace(const QString& text, const QString& with, unsigned flags, bool all) override;
 
-    /// Selects all of the waveform.
+    /// Selects the whole waveform.
     void selectAll() override;
     ProjectFile* file() const override;
 
-    /// Nothing: sounds do not go by the clipboard.
+    /// Do nothing: sounds do not use the clipboard.
     void cut() override;
     void copy() override;
     void paste() override;
 
     Sounds* sounds() const;
 
-    /// The sound that is shown, or null. Good until the collection signals a change.
+    /// The current sound, or null. Valid until the collection signals a change.
     Sound* sound() const;
 
-    /// Another sound is shown, or with null none: as it stands here the workspace gets its samples.
+    /// Another sound is shown; null for none. By default passes its samples to the workspace.
     virtual void soundChanged(Sound* sound);
 
-    /// Sounds have come or gone: as it stands here slider, labels and the sound that is shown
-    /// follow, and so they do if an override calls this one.
+    /// Sounds were added or removed. By default updates slider, labels and the current sound; an
+    /// override that wants this calls the base.
     virtual void soundCountChanged();
 
-    /// Shows the current sound anew.
+    /// Shows the current sound again after a change.
     void refreshSound();
 
 protected:
-    /// Asked before the current sound is deleted, behind the question of "confirm_delete". False
-    /// keeps it: for a host that knows who plays it. Here true.
+    /// Called before the current sound is deleted, after the question of "confirm_delete". Return
+    /// false to keep it, for a host that knows what plays the sound. By default true.
     virtual bool mayDeleteSound();
 
-    /// Asked before the files that the person has chosen are read. False gives up. Here true.
+    /// Called before the chosen files are read. Return false to cancel. By default true.
     virtual bool mayReadSounds(const QStringList& fileNames);
 
-    /// Reads a file in another thread, whatever becomes of the editor meanwhile. It gives a sound
-    /// without frames if that does not go; then `reason`, if a text is put there, is told behind
-    /// the host's. Beside a sound with frames it tells what is lost, or why no file can hold it.
+    /// Reads a file in a worker thread, even if the editor dies meanwhile. Returns a sound without
+    /// frames on failure; a text in `reason` is then appended to the host's message. With a valid
+    /// sound, `reason` says what was lost, or why no file can hold it.
     using SoundReader = std::function<SoundSample(QString* reason)>;
 
-    /// How a file is read. As it stands here that is `soundFromWAV()`, and for what has no plain
-    /// samples the extensions of the file's suffix.
+    /// Returns the reader for a file. By default `soundFromWAV()`; files without plain samples are
+    /// passed to the extensions for their suffix.
     virtual SoundReader soundReader(const QString& fileName);
 
 signals:
-    /// A sound is shown.
+    /// Whether a sound is shown.
     void enabled(bool isEnabled);
 
-    /// Some files could not be opened to save sounds in them: their names and reasons, a line each.
+    /// Some files could not be opened for saving: names and reasons, one per line.
     void saveFailed(const QString& text);
 
 private:

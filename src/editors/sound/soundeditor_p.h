@@ -25,7 +25,7 @@ class Interface;
 class OrganizerEditor;
 struct ReadySample;
 
-/// The state of a `SoundEditor`, and the slots of its tools, which the host finds by name.
+/// The state of a `SoundEditor`, and the slots of its tools. The host finds the slots by name.
 class SoundEditorPrivate : public QObject
 {
     Q_OBJECT
@@ -72,16 +72,16 @@ public:
     using Edit = SoundSample (*)(const SoundSample&, SoundRange);
     void edit(unsigned textId, Edit edit);
 
-    /// True if an action may change sounds now; then the editor is in front.
+    /// True if an action may change sounds now. Brings the editor to the front.
     bool begin();
 
     SoundEditor* const editor;
     Interface* const host;
     QPointer<SoundWorkspace> workspace;
     QPointer<Sounds> sounds;
-    Sound* sound = nullptr;  // its address; only compared after a change of the collection
+    Sound* sound = nullptr;  // may dangle after a change of the collection: compare only
     SampleInfo info;
-    int inhibit = 0;  // the code itself changes slider, actions or the current row
+    int inhibit = 0;  // guard: the editor itself changes slider, actions or current row
     bool isBusy = false;
 
     QPointer<QAction> editorAction;
@@ -113,7 +113,7 @@ public slots:
 signals:
     void enabled(bool isEnabled);
 
-    /// A part of the waveform is selected.
+    /// Whether a part of the waveform is selected.
     void partEnabled(bool isEnabled);
     void setSelPos(int row);
     void setPosText(const QString& text);

@@ -40,7 +40,7 @@ QString waveFilter()
     return SoundEditor::tr("WAVEform audio format (*.wav)");
 }
 
-/// WAV, and what extensions read.
+/// WAV, and the formats that extensions can read.
 QString openFilter(const Interface* host)
 {
     QStringList patterns{QStringLiteral("*.wav")};
@@ -57,7 +57,7 @@ QString openFilter(const Interface* host)
     return filters.join(QStringLiteral(";;"));
 }
 
-/// The names below a chosen one: "folder/base_IDENTIFIER.suffix", each another one.
+/// Derives unique names from a chosen one: "folder/base_IDENTIFIER.suffix".
 QStringList namesFor(const QString& chosen, const QStringList& identifiers)
 {
     const QFileInfo file(chosen);
@@ -80,7 +80,7 @@ QStringList namesFor(const QString& chosen, const QStringList& identifiers)
     return names;
 }
 
-/// A line each, of the first ones.
+/// The first lines, one per entry.
 QString shortList(const QStringList& lines)
 {
     constexpr int MostLines = 10;
@@ -88,7 +88,7 @@ QString shortList(const QStringList& lines)
            (lines.size() > MostLines ? QStringLiteral("\n...") : QString());
 }
 
-/// What was read, but not all, or not in a form that can be stored.
+/// Reports files that were read only in part, or in a form that cannot be stored.
 void tellLosses(const QString& title, const QStringList& reasons)
 {
     if (!reasons.isEmpty()) {
@@ -96,7 +96,7 @@ void tellLosses(const QString& title, const QStringList& reasons)
     }
 }
 
-/// Files that stand there already are replaced only if the person says so.
+/// Asks before existing files are overwritten.
 bool mayReplace(const QString& title, const QStringList& names)
 {
     QStringList there;
@@ -116,8 +116,8 @@ bool mayReplace(const QString& title, const QStringList& names)
                Dialogs::Yes | Dialogs::No, Dialogs::No) == Dialogs::Yes;
 }
 
-/// False if writing failed, which was told. A file that cannot be opened is only noted, and so is a
-/// broken sound: a file that is there keeps what it has.
+/// False if writing failed, which the user was told. A file that cannot be opened, and a broken
+/// sound, are only added to `unopened`: an existing file keeps its content.
 bool write(const SoundSample& sample, const QString& fileName, QStringList* unopened)
 {
     if (sample.frames > 0 && sample.data.isEmpty()) {
@@ -142,7 +142,8 @@ bool write(const SoundSample& sample, const QString& fileName, QStringList* unop
 
 }  // namespace
 
-/// Another action may be at work, or the project may have gone in a dialog.
+/// Fails if another action is running, or if there are no sounds: a dialog may have been open while
+/// the project was closed.
 bool SoundEditorPrivate::begin()
 {
     if (!editor->isActive()) {
@@ -164,7 +165,7 @@ void SoundEditorPrivate::rememberFolder(const QString& fileName) const
     sounds->setOption(QStringLiteral("snd_path"), QFileInfo(fileName).absolutePath(), true, false);
 }
 
-/// Packed for the list; it may have gone behind this, and so may the editor.
+/// Reads a file and packs it for the list. The list and the editor may be gone afterwards.
 ReadySample SoundEditorPrivate::readReady(const QString& fileName, QString* reason) const
 {
     return readySample(sounds, [reader = editor->soundReader(fileName), reason] {
@@ -174,7 +175,7 @@ ReadySample SoundEditorPrivate::readReady(const QString& fileName, QString* reas
     });
 }
 
-/// What is no WAV of plain samples is left to the extensions.
+/// Everything but WAV files with plain samples is left to the extensions.
 SoundEditor::SoundReader SoundEditor::soundReader(const QString& fileName)
 {
     QVector<Extension*> loaders;
@@ -230,8 +231,8 @@ void SoundEditorPrivate::add()
     addFiles(files, ids);
 }
 
-/// As one step of undo. The editor and its sounds may go meanwhile; what is there when the person
-/// gives up stays.
+/// Adds files in one undo step. The editor and its sounds can be destroyed meanwhile. If the user
+/// cancels, the files read so far stay.
 void SoundEditorPrivate::addFiles(const QStringList& files, const QList<QVariant>& ids)
 {
     const QPointer<SoundEditorPrivate> self(this);
@@ -276,7 +277,7 @@ void SoundEditorPrivate::addFiles(const QStringList& files, const QList<QVariant
     if (to && to == sounds) {
         sounds->setCurrent(row > first ? row - 1 : current());
     }
-    editor->soundCountChanged();  // others may be there now
+    editor->soundCountChanged();  // another collection may be there now
     tellLosses(textOf(AddText), losses);
     for (const auto& file : qAsConst(unreadable)) {
         if (self) {
@@ -421,7 +422,7 @@ void SoundEditorPrivate::saveSndAs()
     {
         Progress progress(title, rows.size());
         for (int i = 0; i < rows.size() && self && from && from == sounds; ++i) {
-            // The file may have been read again behind a dialog.
+            // The project file may have been reloaded while a dialog was open.
             const Sound* each = from->sound(rows[i]);
             if (!each || each != chosenSounds[i]) {
                 unopened.append(

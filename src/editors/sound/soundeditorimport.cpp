@@ -16,13 +16,13 @@ constexpr unsigned ReportTitle = 69;
 constexpr unsigned EmptyTitle = 2;
 constexpr unsigned EmptyText = 4;
 
-/// How many came, and where the first new one stands.
+/// The numbers of imported sounds, and the row of the first new one.
 struct Imported
 {
     int added = 0;
     int replaced = 0;
     int firstRow = 0;
-    QVector<int> emptyRows;  // of the source
+    QVector<int> emptyRows;  // rows of the source
 };
 
 using Properties = QVector<QPair<QString, QVariant>>;
@@ -45,7 +45,7 @@ Properties propertiesOf(const Sound& from)
     return properties;
 }
 
-/// What was unpacked becomes a sound of a list; null if it is of a form that cannot be there.
+/// Stores an unpacked sound in a list; null if the list cannot hold its form.
 Sound* store(Sounds* to, const ReadySample& ready, const ImportEntry& entry, int row, int there)
 {
     Sound* sound = to->sound(there);
@@ -56,7 +56,7 @@ Sound* store(Sounds* to, const ReadySample& ready, const ImportEntry& entry, int
     return to->add(row, entry.identifier, ready.sample);
 }
 
-/// Takes one sound over. Both lists may go while it is unpacked.
+/// Imports one sound. Both lists can be destroyed while it is unpacked.
 void importEntry(const QPointer<Sounds>& to, const ImportEntry& entry, ImportConflict conflicts,
                  int row, Imported* result)
 {
@@ -83,11 +83,11 @@ void importEntry(const QPointer<Sounds>& to, const ImportEntry& entry, ImportCon
     for (const auto& property : properties) {
         sound->setProperty(property.first, property.second);
     }
-    // It comes last: another property may change it.
+    // Set the identifier last: another property may change it.
     sound->setProperty(identifierKey(), entry.identifier);
 }
 
-/// As one step of undo. What is there when the person gives up stays.
+/// Imports in one undo step. If the user cancels, the sounds imported so far stay.
 Imported import(const QPointer<Sounds>& to, const SndImportDlg::Info& choice, const QString& title)
 {
     Imported result;
@@ -111,7 +111,7 @@ Imported import(const QPointer<Sounds>& to, const SndImportDlg::Info& choice, co
     return result;
 }
 
-/// A box for each that did not come, and one for the others.
+/// Shows one message for each sound that could not be imported, and one for the rest.
 void tellImported(const Interface* host, const Imported& result, const QString& name)
 {
     for (const int row : qAsConst(result.emptyRows)) {
@@ -158,7 +158,7 @@ void SoundEditorPrivate::projImport()
     if (isThere) {
         sounds->setCurrent(result.added > 0 ? result.firstRow : current());
     }
-    editor->soundCountChanged();  // others may be there now
+    editor->soundCountChanged();  // another collection may be there now
     if (isThere) {
         tellImported(host, result, name);
     }

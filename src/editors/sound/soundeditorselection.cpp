@@ -22,7 +22,7 @@ namespace {
 constexpr unsigned OrganizerPanel = 0;
 constexpr int TicksPerSecond = 60;
 
-/// Without frames or a rate there is no time to tell.
+/// Without frames or a rate the duration is unknown.
 QString infoText(const SampleInfo& info)
 {
     const QString dashes = QStringLiteral("---");
@@ -77,7 +77,7 @@ void SoundEditorPrivate::take(Sounds* now)
     }
 }
 
-/// Until the editor comes to the front: a sound that is shown costs an open device.
+/// Used while the editor is inactive: showing a sound keeps a device open.
 void SoundEditorPrivate::showNothing()
 {
     sound = nullptr;
@@ -91,7 +91,8 @@ int SoundEditorPrivate::current() const
     return sounds ? sounds->currentIndex : -1;
 }
 
-/// Slider and row; a slider that has the value says nothing.
+/// Sets slider and row. The row is set explicitly, because a slider with that value
+/// emits nothing.
 void SoundEditorPrivate::show(int row)
 {
     {
@@ -117,7 +118,7 @@ void SoundEditorPrivate::updateRange()
     selPosChanged(current());
 }
 
-/// What is pressed is let go of far outside, where nothing is chosen by it.
+/// Ends a drag with a release far outside the slider, where it chooses no value.
 void SoundEditorPrivate::endSliderDrag()
 {
     if (slider) {
@@ -144,7 +145,7 @@ void SoundEditorPrivate::selPosChanged(int row)
     info = sound ? sound->sampleInfo() : SampleInfo();
     showFacts(sound);
     editor->soundChanged(sound);
-    // The list may be in the middle of the move that has brought us here.
+    // Queued: the list may be in the middle of the move that has called this.
     QMetaObject::invokeMethod(this, &SoundEditorPrivate::selectInList, Qt::QueuedConnection);
     updatePart();
 }
@@ -162,7 +163,7 @@ void SoundEditorPrivate::showFacts(Sound* now)
     }
 }
 
-/// From elsewhere: the sound that is shown may stand in another row, or be gone.
+/// The list was changed elsewhere: the current sound may have moved or be gone.
 void SoundEditorPrivate::listChanged()
 {
     if (inhibit > 0 || isBusy || !sounds) {
@@ -200,7 +201,7 @@ OrganizerEditor* SoundEditorPrivate::organizer() const
     return qobject_cast<OrganizerEditor*>(host->extraEditor(OrganizerPanel));
 }
 
-/// Unless the person has selected several there.
+/// Keeps a multiple selection that has the current sound as its current row.
 void SoundEditorPrivate::selectInList()
 {
     OrganizerEditor* list = editor->isActive() ? organizer() : nullptr;
@@ -209,7 +210,7 @@ void SoundEditorPrivate::selectInList()
     }
 }
 
-/// The organizer shows the sounds while they are in front.
+/// Shows the sounds in the organizer while the editor is active.
 void SoundEditorPrivate::lendList(bool isLent)
 {
     OrganizerEditor* list = organizer();
@@ -234,7 +235,7 @@ void SoundEditorPrivate::lendList(bool isLent)
     }
 }
 
-/// The rows whose identifier is like a text, ascending.
+/// The rows whose identifier matches a text, ascending.
 QVector<int> SoundEditorPrivate::matches(const QString& text, unsigned flags,
                                          QRegularExpression* pattern) const
 {
@@ -251,7 +252,8 @@ QVector<int> SoundEditorPrivate::matches(const QString& text, unsigned flags,
     return found;
 }
 
-/// The one beside the current row; with `FindWrap` once around. Negative for none.
+/// The match nearest to the current row in search direction; with `FindWrap` wraps
+/// around. Negative for none.
 int SoundEditorPrivate::firstMatch(const QVector<int>& found, unsigned flags) const
 {
     if (found.isEmpty()) {
@@ -266,7 +268,7 @@ int SoundEditorPrivate::firstMatch(const QVector<int>& found, unsigned flags) co
     return next != found.end() ? *next : wraps ? found.first() : -1;
 }
 
-/// As one step; nothing if one of them would get an identifier that it cannot have.
+/// One undo step. Changes nothing if one of the sounds cannot have its new identifier.
 void SoundEditorPrivate::rename(const QVector<int>& rows,
                                 const std::function<QString(const QString&)>& newName)
 {
@@ -307,7 +309,7 @@ void SoundEditorPrivate::play(bool)
     }
 }
 
-/// What plays goes on, and starts over at its end or no longer does.
+/// Playback continues; only what happens at its end changes.
 void SoundEditorPrivate::playLoop(bool isOn)
 {
     if (inhibit > 0 || !workspace) {

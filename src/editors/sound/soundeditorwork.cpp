@@ -16,7 +16,8 @@ constexpr unsigned ResampleText = 150;
 
 }  // namespace
 
-/// With `step` as one step of undo of that title. The editor and its sounds may go meanwhile.
+/// With `step`, wraps the work into one undo step with that title. The editor and its sounds can be
+/// destroyed meanwhile.
 void SoundEditorPrivate::change(const QVector<int>& rows, const QString& title,
                                 const std::optional<QString>& step, const Work& work)
 {
@@ -36,7 +37,7 @@ void SoundEditorPrivate::change(const QVector<int>& rows, const QString& title,
     }
     isBusy = false;
     if (wanted && wanted == sounds) {
-        listChanged();  // was not heard meanwhile
+        listChanged();  // list signals were ignored meanwhile
         editor->refreshSound();
     }
     if (batch.failedCount() > 0) {
@@ -78,7 +79,7 @@ void SoundEditorPrivate::resample()
            });
 }
 
-/// Of the selected part; without one, of all of the sound.
+/// Works on the selected part, or on the whole sound without a selection.
 void SoundEditorPrivate::edit(unsigned textId, Edit made)
 {
     AudioSampleWidget* widget = begin() && workspace ? waveform() : nullptr;
@@ -87,7 +88,7 @@ void SoundEditorPrivate::edit(unsigned textId, Edit made)
     }
     widget->showNow();
     if (textId == SoundTexts::Silence && widget->selection().isEmpty()) {
-        return;  // of a part that has gone with the sound before
+        return;  // the selected part was in the previous sound
     }
     const SoundRange range =
         widget->selection().isEmpty() ? wholeSound(widget->sample()) : widget->selection();

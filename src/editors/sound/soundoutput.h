@@ -10,9 +10,9 @@ namespace Zorv {
 
 struct SampleInfo;
 
-/// A sound device that plays what it reads from a stream, as `QAudioOutput` does.
+/// A sound device that plays from a stream, like `QAudioOutput`.
 ///
-/// It reads in its own time while the event loop runs. Nothing is read after `stop()`.
+/// It reads asynchronously while the event loop runs. It reads nothing after `stop()`.
 class ZORV_EXPORT SoundOutput : public QObject
 {
     Q_OBJECT
@@ -22,28 +22,28 @@ public:
         Active,
         Suspended,
         Stopped,
-        Idle  ///< there was nothing to read, and everything has been played
+        Idle  ///< nothing left to read, and everything was played
     };
 
     using QObject::QObject;
 
-    /// Plays from the place where the stream is. It is not owned, and outlives the playing.
+    /// Plays from the stream's current position. The stream is not owned and must outlive playback.
     virtual void start(QIODevice* stream) = 0;
 
-    /// Stops and forgets what was read and not yet played.
+    /// Stops, and discards data that was read but not played.
     virtual void stop() = 0;
 
     virtual void suspend() = 0;
     virtual void resume() = 0;
     virtual State state() const = 0;
 
-    /// True if it stopped because the device could not be opened, or has gone.
+    /// True if playback stopped because the device could not be opened or was removed.
     virtual bool hasFailed() const = 0;
 
 signals:
     void stateChanged();
 
-    /// Every 10 ms while it plays.
+    /// Emitted every 10 ms during playback.
     void notify();
 };
 
@@ -53,18 +53,18 @@ class ZORV_EXPORT SoundSystem
 public:
     virtual ~SoundSystem();
 
-    /// The object in use; by default that of Qt.
+    /// The current object; by default Qt's sound system.
     static SoundSystem* instance();
 
-    /// Installs an object, which stays the caller's; null brings the default back.
+    /// Installs an object, which the caller keeps; null restores the default.
     static void setInstance(SoundSystem* system);
 
-    /// The form of samples nearest to one that can be played, that one itself if it can be; its
-    /// `bits` are 8 without a sign, or 16, 24 or 32. Without channels if there is no device, or,
-    /// with a text for the person in `problem`, if it takes none of these.
+    /// The closest playable form to `form`, or `form` itself if possible; its `bits` are 8
+    /// (unsigned), 16, 24 or 32. No channels if there is no device. Also none, with a text for the
+    /// user in `problem`, if the device accepts no such form.
     virtual SampleInfo playableForm(const SampleInfo& form, QString* problem) = 0;
 
-    /// A device for a form; never null.
+    /// Opens a device for a form; never null.
     virtual SoundOutput* open(const SampleInfo& form, QObject* parent) = 0;
 };
 

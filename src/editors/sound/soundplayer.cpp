@@ -9,7 +9,7 @@ namespace Zorv {
 
 namespace {
 
-constexpr int NoticeDelay = 200;  // milliseconds that pass without a word
+constexpr int NoticeDelay = 200;  // milliseconds without a notice
 
 }  // namespace
 
@@ -54,7 +54,7 @@ void SoundPlayer::setSound(const SoundSample& sound)
     }
 }
 
-/// A sound without frames needs no device.
+/// Opens no device for a sound without frames.
 void SoundPlayer::open()
 {
     if (wholeFramesOf(m_sound, m_sound.data) == 0 || m_sound.sampleRate <= 0 ||
@@ -77,7 +77,7 @@ void SoundPlayer::open()
     tell({});
 }
 
-/// It may be in the middle of a signal.
+/// The output may be in the middle of emitting a signal, so delete it later.
 void SoundPlayer::close()
 {
     if (m_output) {
@@ -88,7 +88,7 @@ void SoundPlayer::close()
     }
 }
 
-/// A device that was not there may be back.
+/// If there was no device, tries again: it may be connected now.
 void SoundPlayer::play(bool loop)
 {
     if (!m_output && !m_problem.isEmpty()) {
@@ -216,8 +216,8 @@ int SoundPlayer::position() const
     return int(qint64(m_stream->place() / bytes) * m_sound.sampleRate / m_form.sampleRate);
 }
 
-/// A device is also idle when it could not read in time: only at the end of the sound is that the
-/// end.
+/// A device is also idle after a buffer underrun. Only at the end of the sound is idle the end of
+/// playback.
 void SoundPlayer::outputChanged()
 {
     if (!m_output) {

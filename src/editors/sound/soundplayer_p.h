@@ -13,8 +13,8 @@ namespace Zorv {
 
 class SampleStream;
 
-/// Plays one sound at a time. The device stays open from one sound to the next of the same form.
-/// Where it does not take the form, a copy of the samples is converted for it when it is to play.
+/// Plays one sound at a time. The device stays open between sounds of the same form. If the device
+/// does not accept the form, a copy of the samples is converted before playback.
 class SoundPlayer : public QObject
 {
     Q_OBJECT
@@ -23,7 +23,7 @@ public:
     explicit SoundPlayer(QObject* parent = nullptr);
     ~SoundPlayer() override;
 
-    /// Stops, and takes another sound; an empty one for none.
+    /// Stops, and switches to another sound; an empty one for none.
     void setSound(const SoundSample& sound);
 
     void play(bool loop);
@@ -31,15 +31,15 @@ public:
     void resume();
     void stop();
 
-    /// Also while it plays.
+    /// Can be changed during playback.
     void setLooping(bool isLooping);
 
     SoundSample::State state() const;
 
-    /// The frame of the sound that the device reads next; negative without a device.
+    /// The frame that the device reads next; negative without a device.
     int position() const;
 
-    /// Why nothing is heard, or not yet, in words for the person; empty if all is well.
+    /// Why nothing is heard, or not yet, as a text for the user; empty if all is well.
     QString problem() const { return m_problem; }
 
 signals:
@@ -58,13 +58,13 @@ private:
     void tell(const QString& problem);
 
     SoundSample m_sound;
-    SampleInfo m_form;  // that is played
+    SampleInfo m_form;  // the form that is played
     QPointer<SoundOutput> m_output;
     SampleStream* m_stream;
-    bool m_hasBytes = false;  // the stream has the sound
+    bool m_hasBytes = false;  // the stream has the sound's bytes
     QString m_problem;
     QFutureWatcher<SoundConversion> m_conversion;
-    QTimer m_notice;  // of a conversion that takes long
+    QTimer m_notice;  // delays the notice about a long conversion
     std::shared_ptr<std::atomic<bool>> m_isCanceled;
 };
 

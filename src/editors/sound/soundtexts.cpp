@@ -4,7 +4,7 @@ namespace Zorv {
 
 namespace {
 
-/// In the order of the numbers.
+/// In the order of `SoundTexts::Id`.
 const TextTable::Row rows[SoundTexts::End - SoundTexts::First] = {
     {QT_TRANSLATE_NOOP("Zorv::SoundTexts", "Sound:"),
      QT_TRANSLATE_NOOP("Zorv::SoundTexts", "The sound that is shown and played")},

@@ -4,7 +4,7 @@
 
 namespace Zorv {
 
-/// The texts of the tools of the sound editor that are not among those of `ZorvTranslator`.
+/// Texts of the sound editor's tools that `ZorvTranslator` does not have.
 class SoundTexts : public TextTable
 {
 public:

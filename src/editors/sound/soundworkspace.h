@@ -12,7 +12,7 @@ namespace Zorv {
 class AudioSampleWidget;
 class SoundWorkspacePrivate;
 
-/// The workspace in which a sound is seen and heard: an `AudioSampleWidget`.
+/// The workspace that shows and plays a sound, with an `AudioSampleWidget`.
 class ZORV_EXPORT SoundWorkspace : public Workspace
 {
     Q_OBJECT
@@ -24,13 +24,13 @@ public:
     /// "sound".
     QString name() const override;
 
-    /// A host that does not put it into a window leaves it to the workspace.
+    /// The workspace owns the widget unless the host puts it into a window.
     QWidget* widget() const override;
 
-    /// The same; null once a window that had it is gone.
+    /// The same; null once it was deleted with its window.
     AudioSampleWidget* sampleWidget() const;
 
-    /// @name Of the widget, see there
+    /// @name Forwarded to the widget; see `AudioSampleWidget`
     /// @{
     void setSound(const SoundSample& sample);
     void setSound(const SampleInfo& info, const std::function<QByteArray()>& reader);
@@ -42,7 +42,7 @@ public:
 
     void retranslate() override;
 
-    /// All of the sound is seen, or less of it, or more.
+    /// Shows the whole sound, less of it, or more.
     void zoomActual() override;
     void zoomIn() override;
     void zoomOut() override;

@@ -1,9 +1,10 @@
-// Blocks of 128 frames have their extremes, eight of them together theirs, and so on. A part is
-// made of whole blocks, as large ones as fit, and of the frames at its two ends.
+// Level 0 has the extremes of blocks of 128 frames. Each higher level merges eight blocks of the
+// level below. A query combines the largest aligned blocks that fit with the single frames at both
+// ends.
 //
-// The blocks are made in one pass that is no slower than to read the bytes: with 1, 2, 4 and so on
-// channels, 32 values in a row belong to the same channels as the next 32, so that the compiler
-// compares them at once.
+// Level 0 is built in one pass that is as fast as reading the bytes. With 1, 2, 4 and so on
+// channels, each group of 32 values has the same channel order as the next. So the compiler can
+// vectorize the comparison of 32 values with the next 32.
 
 #include "editors/sound/wavepyramid_p.h"
 
@@ -27,7 +28,7 @@ void include(WavePyramid::Extremes* found, const WavePyramid::Extremes& more)
 
 constexpr WavePyramid::Extremes Nothing{INT_MAX, INT_MIN};
 
-/// 20 bits have the bytes of 24.
+/// 20-bit samples are stored in the bytes of 24 bits.
 int storedBits(int bits)
 {
     return bits == 20 ? 24 : bits;
@@ -78,7 +79,7 @@ qint32 WavePyramid::value(int frame, int channel) const
     return result;
 }
 
-/// Only whole blocks are kept.
+/// Stores only whole blocks.
 void WavePyramid::buildBase()
 {
     const int channels = m_info.channels;

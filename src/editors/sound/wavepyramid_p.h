@@ -9,12 +9,12 @@
 
 namespace Zorv {
 
-/// The least and the greatest value of any part of a sound, in a time that does not depend on how
-/// long the part is. It shares the data of the sound. Made in any thread, and never changed.
+/// Minimum and maximum of any part of a sound, in time independent of the part's length. It shares
+/// the sound's data. Can be built in any thread; immutable.
 class ZORV_EXPORT WavePyramid
 {
 public:
-    /// Values as numbers of the sound's bits, signed.
+    /// Signed values with the bits of the sound.
     struct Extremes
     {
         qint32 least = 0;
@@ -25,11 +25,11 @@ public:
 
     int frames() const { return m_frames; }
 
-    /// The value of a channel; 0 for what is not there.
+    /// The value of a channel; 0 if it does not exist.
     qint32 value(int frame, int channel) const;
 
-    /// Of the frames from `first` on and before `end`, cut to those that are there; of none, both
-    /// are 0.
+    /// For the frames from `first` to before `end`, clamped to existing ones; both 0 for an empty
+    /// range.
     Extremes extremes(int channel, int first, int end) const;
 
 private:
@@ -41,7 +41,7 @@ private:
     QByteArray m_data;
     int m_frames = 0;
     int m_frameBytes = 0;
-    QVector<QVector<Extremes>> m_levels;  // the finest first; the channels of a block together
+    QVector<QVector<Extremes>> m_levels;  // finest first; channels interleaved within a block
 };
 
 }  // namespace Zorv
