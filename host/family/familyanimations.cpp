@@ -14,7 +14,7 @@ namespace Family {
 
 namespace {
 
-/// One step of undo, as long as the object lives; comments travel in it.
+/// Groups edits into one undo step while it exists; comments travel in it.
 class Change
 {
 public:
@@ -31,7 +31,7 @@ private:
     CommentTravel m_travel;
 };
 
-/// The text of an animation with another identifier in its head line.
+/// The text of an animation with a new identifier in its head line.
 QString renamed(const AnimationNode* animation, const QString& identifier)
 {
     const QTextCursor all = animation->selectAll();
@@ -108,9 +108,9 @@ QVariant FamilyAnimations::data(const QModelIndex& index, int role) const
     return isNameless ? animation(index.row())->block().text().trimmed() : value;
 }
 
-/// The last animation reaches to the end of the text. Without a line end there
-/// the library would cut its last character, or join it with what comes behind.
-/// A comment there must not come to stand above another head.
+/// The last animation extends to the end of the text. Without a final line end the library would
+/// cut off its last character, or join it with the text after it. A comment at the end must not end
+/// up above another head.
 void FamilyAnimations::ensureEndBehind(unsigned index)
 {
     auto* text = static_cast<FamilyDocument*>(document());
@@ -179,7 +179,7 @@ bool moveAnimation(FamilyAnimations* list, int from, int to)
         list->move(unsigned(from), unsigned(to));
         return true;
     }
-    // The last place is reached by moving the last one in front of it.
+    // The last place is reached by moving the last animation up by one.
     if (from < last - 1) {
         list->move(unsigned(from), unsigned(last - 1));
     }

@@ -7,47 +7,47 @@ namespace Family {
 class AnimationNode;
 class FamilyDocument;
 
-/// The animations of a document. The operations of the library that would join
-/// lines of a text without a final line end put that end first, within the same
-/// step of undo. Comments directly above an animation go with it, see `CommentTravel`.
+/// The animations of a document. Some operations of the library would join lines if the text has no
+/// final line end. Here they add that line end first, within the same undo step. Comments directly
+/// above an animation belong to it, see `CommentTravel`.
 class FamilyAnimations final : public Zorv::Animations
 {
     Q_OBJECT
 
 public:
-    /// Registers itself with the document, which owns it from then on.
+    /// Registers itself with the document, which then owns it.
     explicit FamilyAnimations(FamilyDocument* document);
 
-    /// Null outside of the list.
+    /// Null if out of range.
     AnimationNode* animation(int index) const;
 
-    /// The animation that a line of the document, counted from 0, stands in; null outside of all.
+    /// The animation that contains a line of the document (from 0); null outside of all animations.
     AnimationNode* animationAt(int line) const;
 
-    /// The place of the first animation with that identifier, -1 without one.
+    /// The index of the first animation with that identifier; -1 if there is none.
     int indexOfIdentifier(const QString& identifier) const;
 
-    /// Writes a copy right behind an animation, with its comments; `identifier` replaces its own
-    /// unless it is empty. One step of undo. False, and no change, for a place
-    /// outside of the list or a text that is no identifier.
+    /// Inserts a copy directly after an animation, with its comments. The copy gets `identifier`
+    /// unless that is empty. One undo step. False, without a change, for an invalid index or
+    /// identifier.
     bool duplicateAnimation(int index, const QString& identifier);
 
-    /// As `removeRedundantLines()`.
+    /// Calls `removeRedundantLines()`.
     int optimize(bool dryRun = false, QStringList* lines = nullptr) override;
     QString animationTemplate() const override;
     bool canName(const QString& identifier) const override;
 
-    /// With the comments directly above, see `CommentTravel`, and without those below its code.
+    /// Includes the comments directly above, see `CommentTravel`, but not those below its code.
     QTextCursor ownLines(unsigned index) const override;
     QString codeFor(unsigned index, const QString& identifier,
                     const QHash<Zorv::SpriteNumber, Zorv::SpriteNumber>& sprites) const override;
 
-    /// As that of the library; the head line for an animation without any name.
+    /// As in the library, but an animation without any name shows its head line.
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     void remove(unsigned index) override;
 
-    /// As that of the library: moved to the last place, an animation is
-    /// written at the very start. `moveAnimation()` has no such corner.
+    /// As in the library, including a quirk: an animation moved to the last place is written at the
+    /// very start. `moveAnimation()` does not have this quirk.
     void move(unsigned from, unsigned to) override;
     void autoOrganize() override;
     void release() override;
@@ -56,11 +56,11 @@ private:
     void ensureEndBehind(unsigned index);
 };
 
-/// Moves an animation so that it stands at `to` afterwards, also at the end.
-/// One step of undo. False, and no change, if an index is outside of the list.
+/// Moves an animation so that its new index is `to`, the last one included. One undo step. False,
+/// without a change, if an index is out of range.
 bool moveAnimation(FamilyAnimations* list, int from, int to);
 
-/// True for a number or word that can name an animation.
+/// True for a number or a word: a valid identifier of an animation.
 bool isAnimationIdentifier(const QString& text);
 
 }  // namespace Family

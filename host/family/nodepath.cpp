@@ -21,7 +21,7 @@ using Zorv::ContactBoxCode;
 
 namespace {
 
-/// Makes the texts of this file known to translators.
+/// Translation context of this file.
 class Text
 {
     Q_DECLARE_TR_FUNCTIONS(Family)
@@ -62,7 +62,7 @@ QString boxPart(const BoxNode* box, int index)
     return QStringLiteral("/%1:%2").arg(box->name(), QString::number(index));
 }
 
-/// The children of a node that answer to a part of a path, in text order.
+/// The children of a node that match a part of a path, in text order.
 QVector<CodeNode*> matches(const Zorv::ParentCode* parent, const QString& text)
 {
     QVector<CodeNode*> found;
@@ -87,7 +87,7 @@ QStringList childTexts(const Zorv::ParentCode* parent)
     return texts;
 }
 
-/// Follows a path from part to part.
+/// Follows a path part by part.
 class Walk
 {
 public:

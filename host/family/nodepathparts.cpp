@@ -23,7 +23,7 @@ QString unquoted(const QStringRef& text)
     return result;
 }
 
-/// A word or a text in quotes; a null string if there is neither.
+/// A word or a quoted text; a null string if there is neither.
 QString readName(LineScanner& scanner)
 {
     const int start = scanner.position();

@@ -11,16 +11,16 @@ struct PathPart
     QString name;
     QString argument;
     bool hasArgument = false;
-    int number = 1;  ///< from 1, among parts of the same name and argument
+    int number = 1;  ///< counts from 1, among parts with equal name and argument
 
-    /// Name and argument, as a path has them.
+    /// Name and argument as written in a path.
     QString text() const;
 };
 
-/// The parts of a path. Empty, with `error`, for one that is not well formed.
+/// Splits a path. Empty, with `error`, if it is malformed.
 QVector<PathPart> splitPath(const QString& path, QString* error);
 
-/// A name as a path has it: in quotes where it is no word.
+/// A name as written in a path: quoted unless it is a word.
 QString pathName(const QString& name);
 
 }  // namespace Family

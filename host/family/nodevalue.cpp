@@ -25,13 +25,13 @@ constexpr KeyInfo spriteKey{
     QLatin1String(), Form::Pair,     0, 0, 65535, QLatin1String(), QLatin1String(),
     QLatin1String(), QLatin1String()};
 
-/// Makes the texts of this file known to translators.
+/// Translation context of this file.
 class Text
 {
     Q_DECLARE_TR_FUNCTIONS(Family)
 };
 
-/// What can be read and written at a node, or one part of it.
+/// A node, or one part of it, that has a value to read and write.
 struct Target
 {
     CodeNode* node;

@@ -1,7 +1,7 @@
 #include "family/redundantlines.h"
 
-// Everything is decided before the first edit: which lines go, and which frames stay longer. The
-// edits then run from the bottom up, so that the numbers of the lines above stay true.
+// Everything is decided before the first edit: which lines to remove and which frames to prolong.
+// The edits then run from the bottom up, so that the line numbers above stay valid.
 
 #include "family/familyanimations.h"
 #include "family/grammar/framereader.h"
@@ -24,7 +24,7 @@ namespace Family {
 
 namespace {
 
-/// The kind of a box and its four numbers.
+/// The type of a box and its four numbers.
 using Box = std::array<int, 5>;
 
 Box boxOf(const BoxNode* node)
@@ -33,7 +33,7 @@ Box boxOf(const BoxNode* node)
     return {node->isAttack(), rect.left(), rect.top(), rect.right(), rect.bottom()};
 }
 
-/// Lines that go; or, if `last` is -1, a frame in line `first` that stays for another time.
+/// Lines to remove; or, if `last` is -1, a frame on line `first` that gets another time.
 struct Edit
 {
     int first;
@@ -41,7 +41,7 @@ struct Edit
     int delay;
 };
 
-/// Goes along the lines of one animation.
+/// Walks over the lines of one animation.
 class AnimationWalk
 {
 public:
@@ -56,11 +56,11 @@ private:
 
     const Zorv::CodeDocument* m_document;
     std::vector<Edit>* m_edits;
-    int m_first;                 // line of the frame that comes next
-    std::set<Box> m_boxes;       // of it, as far as they are read
-    std::vector<int> m_repeats;  // lines of the boxes that it has already
+    int m_first;                 // first line of the next frame
+    std::set<Box> m_boxes;       // of the next frame, as read so far
+    std::vector<int> m_repeats;  // lines of the boxes that it already has
 
-    // The frame that the next one may join.
+    // The frame that the next one may be merged into.
     int m_line = -1;
     int m_ownDelay = 0;
     FrameData m_data;
@@ -119,8 +119,8 @@ bool AnimationWalk::canJoin(const FrameData& data) const
            m_boxes == m_dataBoxes;
 }
 
-/// True if nobody would miss the lines: they are empty, or boxes and frames without a comment and
-/// without a problem, whose text somebody has still to look at.
+/// True if removing the lines loses nothing: they are empty, or boxes and frames without a comment
+/// and without a problem. The user must still look at a line with a problem.
 bool AnimationWalk::canGo(int first, int last) const
 {
     for (int line = first; line <= last; ++line) {
@@ -142,7 +142,7 @@ bool AnimationWalk::canGo(int first, int last) const
     return true;
 }
 
-/// A frame with a problem is no measure for another one, and may not take its time.
+/// A frame with a problem is not a valid reference and must not get another frame's time.
 bool AnimationWalk::canStay(int line) const
 {
     const QTextBlock block = m_document->findBlockByNumber(line);

@@ -4,7 +4,8 @@
 
 namespace Family {
 
-/// True if each row of a table stands in the place of its own number, so that it is found by that.
+/// True if each row's number equals its index in the table, so that the number can be used as
+/// index.
 template <class Row, class Id, std::size_t Count>
 constexpr bool isInOrder(const Row (&rows)[Count], Id Row::*id)
 {

@@ -18,7 +18,7 @@ bool isEmpty(const QTextBlock& line)
     return line.text().trimmed().isEmpty() || isCommentLine(line);
 }
 
-/// The line of a frame with another sprite; as it is if its sprite cannot be read.
+/// The line of a frame with another sprite; unchanged if its sprite cannot be read.
 QString frameLineFor(const FrameNode* frame, Zorv::SpriteNumber sprite)
 {
     NodeLine line(frame);

@@ -10,17 +10,17 @@ namespace Family {
 
 class AnimationNode;
 
-/// From a sprite to the one that takes its place; others stay.
+/// Maps a sprite number to its replacement; others stay unchanged.
 using SpriteMap = QHash<Zorv::SpriteNumber, Zorv::SpriteNumber>;
 
-/// The head line of an animation with another identifier; as it is for an empty one.
+/// The head line of an animation with a new identifier; unchanged if that is empty.
 QString headLineFor(const AnimationNode* animation, const QString& identifier);
 
-/// The lines that are an animation's own, without the last line end: from its first one to its
-/// last code. Comments and empty lines behind that stay where they are.
+/// The lines that belong to an animation, without the last line end: from its first line to its
+/// last line of code. Comments and empty lines after that do not belong to it.
 QTextCursor ownLinesOf(const AnimationNode* animation);
 
-/// Those lines, with a line feed between two, under another identifier and with other sprites.
+/// These lines, separated by line feeds, with a new identifier and other sprites.
 QString ownCodeFor(const AnimationNode* animation, const QString& identifier,
                    const SpriteMap& sprites);
 

@@ -86,7 +86,7 @@ QVector<FlipChoice> flipChoices()
     return choices;
 }
 
-/// In the words of values of a like form.
+/// Uses the same words as values of a similar form.
 QString FrameOption::expectation() const
 {
     if (numbers == 0) {

@@ -5,7 +5,7 @@
 
 namespace Family {
 
-/// Reads what stands behind "frame".
+/// Reads the rest of a line after "frame".
 class FrameReader
 {
 public:
@@ -14,7 +14,7 @@ public:
     {
     }
 
-    /// What could be read counts. False if the rest of the line means nothing.
+    /// Fills in what could be read. False if the rest of the line is meaningless.
     bool read(FrameData* frame);
 
 private:

@@ -23,7 +23,8 @@ const KeywordRow keywordRows[] = {
     {"body", QT_TRANSLATE_NOOP("Grammar", "A contact box of the next frame that is hit")},
 };
 
-/// The least number of letters to put in, take out, change or swap.
+/// The edit distance: how many letters must be inserted, deleted, changed or swapped with the next.
+/// Keeps only three rows of the table.
 int editDistance(const QString& a, const QString& b)
 {
     QVector<int> twoAgo;

@@ -12,7 +12,7 @@ constexpr double speed = 64;
 constexpr double sprite = 65535;
 constexpr double place = 32768;
 
-// The rows of a table, by what they need to tell.
+// Functions that build the rows of a table, one per combination of columns.
 
 constexpr KeyInfo key(const char* name, Form form, const char* description)
 {
@@ -361,7 +361,7 @@ const GroupInfo groupRows[] = {
 
 const GroupInfo unknownGroup = unknown(Grammar::UnknownGroup, 0, none);
 
-/// The unknown sub-groups of every main group, by its number, 0 for none.
+/// The row for unknown sub-groups of each main group, by its number; 0: without a main group.
 const QVector<GroupInfo>& unknownSubRows()
 {
     static const QVector<GroupInfo> rows = [] {

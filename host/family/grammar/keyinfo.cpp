@@ -59,8 +59,8 @@ const FormRow& rowOf(Form form)
     return formRows[int(form)];
 }
 
-/// Finds `word` among the parts of `list`, which '|' divides. `mark`, if not
-/// null, ends the word within its part, and `rest` takes what follows it.
+/// Finds `word` in `list`, whose parts are separated by '|'. If `mark` is not null, the word ends
+/// before it, and `rest` receives the part after it.
 bool findPart(QLatin1String list, const QStringRef& word, char mark, QLatin1String* rest)
 {
     const char* const end = list.data() + list.size();

@@ -14,7 +14,7 @@ enum class Form : unsigned char {
     Path,           ///< in quotes, a file
     Name,           ///< a word or number without quotes
     AnimationName,  ///< the identifier of an animation
-    CommandName,    ///< a name that a key of [commands] has
+    CommandName,    ///< a name defined by a key of [commands]
     MoveName,       ///< the name of a [move]
     Choice,         ///< one word of a list
     Date,           ///< 2024-05-31
@@ -32,23 +32,23 @@ enum class Form : unsigned char {
     Pair,
     Quad,
     Ints,
-    Any  ///< whatever the line has, of an unknown key
+    Any  ///< the rest of the line, for an unknown key
 };
 
-/// One key of a group: a row of a table. Texts are ASCII and static.
+/// One key of a group: a row of a table. Texts are static ASCII.
 struct KeyInfo
 {
-    /// `Free` marks the row that stands for every key.
+    /// `Free`: the row applies to every key.
     enum Flag { NoFlags = 0, Required = 1, Repeatable = 2, Free = 4 };
 
     QLatin1String name;  ///< empty in a row that is `Free`
     Form form;
     int flags;       ///< of `Flag`
-    double minimum;  ///< of each number; no range if not below `maximum`
+    double minimum;  ///< of each number; no range if not less than `maximum`
     double maximum;
-    QLatin1String choices;      ///< the words with '|' between
-    QLatin1String oldChoices;   ///< as in "true=yes|false=no"
-    QLatin1String replacement;  ///< the new name of an old key, else empty
+    QLatin1String choices;      ///< the words separated by '|'
+    QLatin1String oldChoices;   ///< for example "true=yes|false=no"
+    QLatin1String replacement;  ///< the new name of an old key, otherwise empty
     QLatin1String description;  ///< one line
 
     bool hasRange() const { return minimum < maximum; }
@@ -58,24 +58,24 @@ struct KeyInfo
     bool isDeprecated() const { return replacement.size() > 0; }
     QStringList choiceList() const;
 
-    /// The word that a text stands for: itself, or the new one of an old word;
-    /// empty if it is none of the choices.
+    /// The choice meant by a word: the word itself, or the new word for an old one; empty if it is
+    /// no choice.
     QLatin1String choice(const QStringRef& word) const;
 
-    /// What stands behind '=', in words: "a whole number from 1 to 9999".
+    /// What must follow '=', in words: "a whole number from 1 to 9999".
     QString expectation() const;
 
-    /// The description in the language of the program.
+    /// The description in the program's language.
     QString meaning() const;
 
-    /// The type of the node of such a value.
+    /// The type of the node for such a value.
     Zorv::ValueCode::Type valueType() const;
 };
 
-/// A description of the tables in the language of the program.
+/// A description from the tables in the program's language.
 QString translatedDescription(QLatin1String description);
 
-/// How many parts a form takes: 0 for any number, 1 for a form without list.
+/// The number of elements of a form: 0: any number; 1: the form is not a list.
 int elementCount(Form form);
 
 }  // namespace Family

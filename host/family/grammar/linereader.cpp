@@ -11,7 +11,7 @@ using Syntax = Zorv::CodeParserSyntax;
 
 namespace {
 
-/// One pass over a line.
+/// Reads one line in a single pass.
 class Reader
 {
 public:
@@ -72,7 +72,7 @@ ParsedLine Reader::read()
     return std::move(m_line);
 }
 
-/// What follows the statement: a comment, or what should not be there.
+/// Reads what follows the statement: a comment, or unexpected text.
 void Reader::readEnd(bool tellRest)
 {
     m_scanner.skipBlanks();

@@ -10,21 +10,21 @@
 
 namespace Family {
 
-/// What a line stands under: the nearest group or animation above it.
+/// The context of a line: the nearest group or animation above it.
 struct LineHead
 {
     enum Kind : unsigned char {
         None,
         Group,
         Animation,
-        Anything  ///< not known: nothing is said about the place of the line
+        Anything  ///< unknown: do not report a line as misplaced
     };
 
     Kind kind = None;
-    const GroupInfo* group = nullptr;  ///< of a `Group`
+    const GroupInfo* group = nullptr;  ///< for `Group`
 };
 
-/// What a line says.
+/// The parsed content of a line.
 struct ParsedLine
 {
     enum Kind : unsigned char { Nothing, Format, Group, Value, Animation, Frame, Box };
@@ -32,7 +32,7 @@ struct ParsedLine
     Kind kind = Nothing;
     bool attack = false;               ///< of a box
     const GroupInfo* group = nullptr;  ///< of a group head
-    const KeyInfo* key = nullptr;      ///< of a value; never that of an old name
+    const KeyInfo* key = nullptr;      ///< of a value; never the row of an old name
     QVariant value;                    ///< of a value; invalid if it could not be read
     QString argument;                  ///< of a group, or the identifier of an animation
     QString name;                      ///< of an animation
@@ -40,22 +40,22 @@ struct ParsedLine
     QRect box;
 };
 
-/// Reads one line under its head. Nothing else than these two, and the kind of
-/// file, decides what comes out: the parser and the checks rely on it.
+/// Reads one line in the context `head`. The result depends only on these arguments; the parser and
+/// the checks rely on that.
 ParsedLine readLine(const QString& text, const LineHead& head, FileKind file, LineReport& report);
 
-/// An option of frame lines, as in the table of the docs.
+/// An option of frame lines; a row of the table in the documentation.
 struct FrameOption
 {
     QLatin1String name;
-    QLatin1String oldName;  ///< empty if there is none
-    int numbers;            ///< 0 for an option of another form
+    QLatin1String oldName;  ///< empty if none
+    int numbers;            ///< 0: the option has another form
     bool whole;
     double minimum;
     double maximum;
     QLatin1String description;  ///< one line
 
-    /// What stands behind the name, in words; empty for nothing.
+    /// What must follow the name, in words; empty for nothing.
     QString expectation() const;
 };
 
@@ -71,7 +71,7 @@ enum FrameOptionIndex {
 constexpr int FrameOptionCount = LoopOption + 1;
 const FrameOption& frameOption(int index);
 
-/// The range of the group and number of a sprite.
+/// The largest group and number of a sprite.
 constexpr int MostSprite = 65535;
 
 /// The range of the coordinates of a box.
@@ -81,7 +81,7 @@ constexpr int MostPlace = 32767;
 /// "h", "v" or "hv".
 QString flipText(int flip);
 
-/// A word for `flip`, with its description. Old words are left out.
+/// A word for `flip`, with its description. Without old words.
 struct FlipChoice
 {
     QLatin1String word;

@@ -8,26 +8,26 @@
 
 namespace Family {
 
-/// A problem on columns of a line.
+/// A problem at a range of columns in a line.
 struct LineProblem
 {
     ProblemId id;
     int start;
-    int end;  ///< behind the last character
+    int end;  ///< after the last character
     QString text;
 };
 
-/// A part of a line that an edit can mean.
+/// A part of a line that an edit can address.
 struct LinePart
 {
     enum Role {
         Keyword,  ///< "animation", "frame", "attack", "body"
         Key,
-        Value,     ///< the whole of a value; `index` is `Unread` if it means nothing
+        Value,     ///< a whole value; `index` is `Unread` if it is meaningless
         Element,   ///< one part of a value
         Name,      ///< of a group, in its head
         Argument,  ///< of a group, or the identifier of an animation
-        Text,      ///< display name of an animation, with its quotes
+        Text,      ///< display name of an animation, including its quotes
         Sprite,    ///< the two numbers of a frame
         Option,    ///< an option of a frame with its numbers; `index` is that of
                    ///< `Grammar::frameOptions()`
@@ -42,21 +42,21 @@ struct LinePart
     int end;
 };
 
-/// The problems and parts of a line, for those who want them.
+/// The problems and parts of a line, if they are needed.
 struct LineDetails
 {
     QVector<LineProblem> problems;
     QVector<LinePart> parts;
 
-    /// The first part of a role, null without one.
+    /// The first part with this role; null if there is none.
     const LinePart* part(LinePart::Role role, int index = 0) const;
 
-    /// The elements of the value, or those within `whole`.
+    /// The elements of the value, or those inside `whole`.
     QVector<LinePart> elements(const LinePart* whole = nullptr) const;
 };
 
-/// Where a reader of lines reports to: colours and messages of the document,
-/// details for checks and edits, or nothing at all.
+/// Receives the results of reading a line: colours and messages go to the document, details to
+/// checks and edits. Each target is optional.
 class LineReport
 {
 public:
@@ -86,10 +86,10 @@ public:
         }
     }
 
-    /// True if a problem goes anywhere: only then is its text worth making.
+    /// True if anybody receives problems. Otherwise do not build their texts.
     bool wantsProblems() const { return m_syntax || m_details; }
 
-    /// Reports a problem on columns; they are coloured as `type`.
+    /// Reports a problem at columns, which are coloured as `type`.
     void problem(ProblemId id, const QStringList& arguments, int start, int end,
                  Zorv::CodeParserSyntax::TokenType type = Zorv::CodeParserSyntax::Invalid);
 

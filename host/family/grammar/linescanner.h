@@ -4,7 +4,7 @@
 
 namespace Family {
 
-/// A place in a line that moves on token by token. Allocates nothing.
+/// A position in a line that advances token by token. Allocates nothing.
 class LineScanner
 {
 public:
@@ -20,32 +20,32 @@ public:
     /// The null character at the end.
     QChar current() const { return m_position < m_end ? m_data[m_position] : QChar(); }
 
-    /// True at the end of the line and in front of a comment.
+    /// True at the end of the line and before a comment.
     bool atCodeEnd() const { return m_position >= m_end || m_data[m_position] == QLatin1Char('#'); }
     void advance() { ++m_position; }
     void skipBlanks();
 
-    /// Goes on if the next character is `character`.
+    /// Advances if the next character is `character`.
     bool accept(char character);
 
-    /// Goes on behind a word of letters, digits, '_' and '-' that starts with
-    /// none of the latter; empty if there is none.
+    /// Skips a word of letters, digits, '_' and '-', which must not start with '-'; empty if there
+    /// is none.
     QStringRef word();
 
-    /// Goes on behind everything up to a blank, comma, ']' or comment.
+    /// Skips everything up to a blank, comma, ']' or comment.
     QStringRef chunk();
 
-    /// Goes on behind a text in quotes, the position being on the first one.
-    /// False if the second is missing; the position is then at the end.
+    /// Skips a quoted text; the position must be at the first quote. False if the closing quote is
+    /// missing; the position is then at the end.
     bool text();
 
     QStringRef part(int start, int end) const { return m_line.midRef(start, end - start); }
 
-    /// Where a comment starts, looking on from here past texts in quotes; the
-    /// size of the line if there is none.
+    /// The start of the next comment, ignoring '#' in quoted texts; the size of the line if there
+    /// is none.
     int commentStart() const;
 
-    /// The end of the code in front of a comment or the line end, without blanks.
+    /// The end of the code before a comment or the line end, without trailing blanks.
     int codeEnd() const;
 
 private:
@@ -55,7 +55,7 @@ private:
     int m_end;
 };
 
-/// True for a blank of any kind.
+/// True for any kind of blank.
 inline bool isBlank(QChar character)
 {
     const ushort code = character.unicode();
@@ -63,7 +63,7 @@ inline bool isBlank(QChar character)
            (code >= 10 && code <= 13);
 }
 
-/// True for a character of a word; `first` if it is to stand at its start.
+/// True for a character of a word; `first` if it is the first one.
 inline bool isWordCharacter(QChar character, bool first)
 {
     const ushort code = character.unicode();

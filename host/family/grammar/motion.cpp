@@ -39,7 +39,7 @@ quint8 signOf(const QString& text)
     return 0;
 }
 
-/// What stands behind '~'.
+/// Reads the text after '~'.
 bool readReleased(const QString& text, MotionStep* step)
 {
     int digits = 0;

@@ -5,10 +5,10 @@
 
 namespace Family {
 
-/// One step of a motion: what is done in one moment.
+/// One step of a motion: everything that happens at one moment.
 struct MotionStep
 {
-    /// Forward is where the fighter looks.
+    /// Forward is the direction the fighter faces.
     enum Sign : quint8 {
         Up = 1,
         Down = 2,
@@ -23,9 +23,9 @@ struct MotionStep
     static constexpr quint8 Buttons = Light | Medium | Heavy | Start;
     static constexpr int MostHeld = 600;
 
-    quint8 signs = 0;         ///< one direction at most, and any buttons
-    bool isReleased = false;  ///< `signs` is let go; it is a direction or a button then
-    int held = 0;             ///< the ticks that it was held before; only of what is let go
+    quint8 signs = 0;         ///< at most one direction, and any buttons
+    bool isReleased = false;  ///< `signs` is released, and is then one direction or one button
+    int held = 0;             ///< how many ticks it was held before a release; only if released
 
     quint8 direction() const { return signs & Directions; }
     quint8 buttons() const { return signs & Buttons; }
@@ -38,17 +38,17 @@ struct MotionStep
 /// The steps of a motion in their order.
 using Motion = QVector<MotionStep>;
 
-/// The most steps of a motion.
+/// The maximum number of steps.
 constexpr int MostMotionSteps = 16;
 
-/// Reads the text of a motion, as in "D, DF, F, L". False for one that means nothing, with the part
-/// that does not in `fault`; `motion` may be null and is not touched then.
+/// Reads the text of a motion, for example "D, DF, F, L". False if invalid, with the invalid part
+/// in `fault`. `motion` may be null and is not changed on failure.
 bool readMotion(const QString& text, Motion* motion, QString* fault);
 
-/// The signs that are held, as a motion has them: "DF + L"; "-" for none.
+/// The held signs as written in a motion: "DF + L"; "-" for none.
 QString signText(quint8 signs);
 
-/// Reads what `signText()` gives, also without blanks. False for anything else.
+/// Reads the output of `signText()`, with or without blanks. False for anything else.
 bool readSigns(const QString& text, quint8* signs);
 
 }  // namespace Family

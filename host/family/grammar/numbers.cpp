@@ -26,7 +26,8 @@ bool skipSign(const QStringRef& text, int* position)
     return negative;
 }
 
-/// A number of few digits without exponent, which is exact as one division.
+/// Fast path: a number of few digits without exponent is exact with a single division, because the
+/// digits and the power of ten both fit into a double exactly.
 bool toShortReal(const QStringRef& text, double* value)
 {
     static constexpr double powers[] = {1,   1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,

@@ -4,18 +4,18 @@
 
 namespace Family {
 
-/// The whole number that a text is, with a sign or not; false for anything
-/// else. One that is too big for 18 digits gives the largest of its sign.
+/// Reads a whole number with or without sign; false for anything else. More than 18 digits give the
+/// largest number of that sign.
 bool toWhole(const QStringRef& text, qint64* value);
 
-/// The finite number that a text is; false for anything else.
+/// Reads a finite number; false for anything else.
 bool toReal(const QStringRef& text, double* value);
 
-/// The number behind "0x", of one to eight digits; false for anything else.
+/// Reads one to eight digits after "0x"; false for anything else.
 bool toHex(const QStringRef& text, quint32* value);
 
-/// The shortest text that reads back as the number, without an exponent where
-/// that is not too long.
+/// The shortest text that reads back as the same number; without an exponent unless that would be
+/// too long.
 QString realText(double value);
 
 /// "0xff8040".

@@ -244,7 +244,7 @@ const ProblemInfo& problemInfo(ProblemId id)
 QString problemText(ProblemId id, const QStringList& arguments)
 {
     QString text = QCoreApplication::translate("Family", problemInfo(id).text);
-    // One pass over the marks, so that a mark inside of an argument stays what it is.
+    // Replaces all marks in one pass, so that a mark inside an argument is not replaced again.
     QString result;
     result.reserve(text.size() + 40);
     for (int i = 0; i < text.size(); ++i) {

@@ -5,12 +5,12 @@
 
 namespace Family {
 
-/// How bad a problem is.
+/// The severity of a problem.
 enum class Level : unsigned char { Error = 0, Warning = 1, Deprecated = 2 };
 
-/// Every kind of problem that the program knows, in the order of the docs.
+/// All kinds of problems, in the order of the documentation.
 enum class ProblemId : unsigned char {
-    // Of one line, by itself or under its head.
+    // Found in a single line, by itself or in its context.
     LineUnknown,
     TextBehind,
     FormatLate,
@@ -56,7 +56,7 @@ enum class ProblemId : unsigned char {
     BoxOutside,
     BoxReversed,
 
-    // Of a whole file or project.
+    // Found in a whole file or project.
     GroupTwice,
     KeyTwice,
     KeyRequired,
@@ -93,15 +93,15 @@ constexpr ProblemId FirstFileProblem = ProblemId::GroupTwice;
 struct ProblemInfo
 {
     ProblemId id;
-    const char* name;  ///< "key-unknown": stable, for `--json` and scripts
+    const char* name;  ///< "key-unknown": a stable name for `--json` and scripts
     Level level;
     const char* text;     ///< with "%1" and so on for parts of the line
-    const char* example;  ///< the lines of a file with the problem, and no other one
+    const char* example;  ///< lines of a file with this problem and no other
 };
 
 const ProblemInfo& problemInfo(ProblemId id);
 
-/// The message of a problem for the person.
+/// The message of a problem for the user.
 QString problemText(ProblemId id, const QStringList& arguments = {});
 
 /// "error", "warning" or "deprecated".

@@ -80,7 +80,7 @@ QVariant tuple(Form form, const double* n)
 bool ValueReader::fail(ProblemId id, const QStringRef& found)
 {
     if (m_report.wantsProblems()) {
-        // Something missing is shown at what stands in front of it.
+        // Something missing is marked at the token before it.
         const int start = m_scanner.position() - std::max(found.size(), 1);
         m_report.problem(id, {quoted(found)}, start, m_scanner.position());
     }
@@ -281,7 +281,7 @@ bool ValueReader::readPath(QVariant* value)
     return true;
 }
 
-// What stays a text is kept: only an engine has no use for it.
+// An invalid motion keeps its text as value: only the engine cannot use it.
 bool ValueReader::readMotionText(QVariant* value)
 {
     const int start = m_scanner.position();

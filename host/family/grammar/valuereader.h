@@ -8,21 +8,21 @@
 
 namespace Family {
 
-/// Reads what stands behind '=' and reports its tokens and problems.
+/// Reads the text after '=' and reports its tokens and problems.
 class ValueReader
 {
 public:
     ValueReader(LineScanner& scanner, LineReport& report) : m_scanner(scanner), m_report(report) {}
 
-    /// The value of a key, in the form that a `ValueNode` stores; invalid if it
-    /// could not be read. False then, and the rest of the line means nothing.
+    /// Reads the value of a key, in the form that a `ValueNode` stores. On failure the value is
+    /// invalid, the result false, and the rest of the line meaningless.
     bool read(const KeyInfo& key, QVariant* value);
 
-    /// A text in quotes at the scanner's place, without quotes and escapes.
+    /// Reads a quoted text at the scanner's position; removes quotes and escapes.
     bool readText(QString* text);
 
-    /// Whole numbers, or any numbers, with commas between. `minimum` not below
-    /// `maximum` stands for no range.
+    /// Read whole numbers, or any numbers, separated by commas. No range if `minimum` is not less
+    /// than `maximum`.
     bool readWholes(int count, double minimum, double maximum, qint64* numbers);
     bool readReals(int count, double minimum, double maximum, double* numbers);
 

@@ -7,8 +7,8 @@ namespace Family {
 
 class FrameNode;
 
-/// A line with one contact box, in front of the frame that it belongs to. In
-/// the chain it stands before that frame; it has no parent in the tree.
+/// A line with one contact box, above the frame that it belongs to. It precedes that frame in the
+/// chain of nodes and has no parent in the tree.
 class BoxNode final : public Zorv::ValueCode, public Zorv::ContactBoxCode
 {
 public:
@@ -20,10 +20,10 @@ public:
     /// "attack" or "body".
     QString name() const override;
 
-    /// Makes it a box of the other kind; nothing for another text.
+    /// Converts it to the other type; does nothing for another text.
     void setName(const QString& name) override;
 
-    /// A list of left, top, right and bottom.
+    /// A list: left, top, right and bottom.
     QVariant value() const override;
 
     /// Takes a `QRect` or a list of four numbers.
@@ -32,23 +32,23 @@ public:
 
     QRect rect() const override;
 
-    /// Edits the numbers of the line that differ.
+    /// Edits only those numbers of the line that differ.
     void setRect(const QRect& rect) override;
 
-    /// Null for a box without a frame behind it.
+    /// Null for a box without a frame after it.
     Zorv::ContactBoxesCode* boxes() const override;
     int line() const override;
 
-    /// The frame behind the box and others, null if there is none.
+    /// The frame that this box belongs to; null if there is none.
     FrameNode* frame() const;
 
-    /// For the parser: the same line with another rectangle.
+    /// For the parser: same line, new rectangle.
     void update(const QRect& rect);
 
     void release() override;
 
-    /// Counts every change to any box, frame or head of the process. A frame
-    /// that has read its boxes at the same count need not read again.
+    /// Counts changes of all boxes, frames and heads in the process. A frame that has read its
+    /// boxes at the same count need not read them again.
     static quint64 revision();
     static void raiseRevision();
 

@@ -75,7 +75,7 @@ CodeNode* boxNode(const ParsedLine& line, CodeNode* oldNode, CodeNode* previous)
     return new BoxNode(previous, line.attack, line.box);
 }
 
-/// True, after colouring it, for a line without code.
+/// True for a line without code, after colouring it.
 bool isWithoutCode(const QString& text, Zorv::CodeParserSyntax* syntax)
 {
     LineScanner scanner(text);
@@ -111,7 +111,7 @@ CodeNode* FamilyParser::parse(const QString& text, CodeNode* oldNode, CodeNode* 
     }
     const CodeNode* above = Zorv::lineHead(previous);
     LineHead head = headOf(above);
-    // Heads are refused while parsing is switched off, so that nothing stands below one.
+    // While parsing is switched off, heads are rejected, so no line is below one.
     const bool enabled = above || root->groupEnabled(0);
     if (!enabled) {
         head.kind = LineHead::Anything;

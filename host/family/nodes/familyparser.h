@@ -6,8 +6,8 @@
 
 namespace Family {
 
-/// The grammar as the documents of the library call it. Has no state: all
-/// documents share one object.
+/// The grammar in the form that documents of the library call. Stateless: all documents share one
+/// object.
 class FamilyParser final : public Zorv::CodeParser
 {
 public:
@@ -17,7 +17,7 @@ public:
                           Zorv::RootCode* root, Zorv::CodeParserSyntax* syntax) override;
 };
 
-/// What a line stands under, `previous` being the last node before it.
+/// The context of a line; `previous` is the last node before it.
 LineHead headAbove(const Zorv::CodeNode* previous);
 
 }  // namespace Family

@@ -58,7 +58,7 @@ Zorv::ContactBoxCode* FrameBoxes::add(const QRect& rect)
                              .arg(m_attack ? QLatin1String("attack") : QLatin1String("body"),
                                   QString::number(rect.left()), QString::number(rect.top()),
                                   QString::number(rect.right()), QString::number(rect.bottom()));
-    // The frame itself may be parsed anew, the lines around the new one stay what they are.
+    // The edit may parse the frame again, but the lines around the new one keep their numbers.
     const int line = last ? last->firstLine() + 1 : m_frame->block().blockNumber();
     document->beginChange(QString());
     if (last) {

@@ -9,7 +9,7 @@ namespace Family {
 class BoxNode;
 class FrameNode;
 
-/// The boxes of one kind in front of a frame, read from the chain when asked.
+/// The boxes of one type above a frame, read from the chain of nodes on demand.
 class FrameBoxes final : public Zorv::ContactBoxesCode
 {
 public:
@@ -18,15 +18,15 @@ public:
     int count() const override;
     Zorv::ContactBoxCode* at(int index) const override;
 
-    /// Writes a line behind the last box line in front of the frame, or right
-    /// in front of the frame, with the indent of its neighbour.
+    /// Inserts a line after the last box line above the frame, or directly above the frame, with
+    /// the indentation of its neighbour.
     Zorv::ContactBoxCode* add(const QRect& rect) override;
     void remove(int index) override;
     Zorv::ContactBoxCode::BoxType type() const override;
     Zorv::FrameCode* frame() const override;
     Zorv::CodeDocument* document() const override;
 
-    /// Read anew at the next question.
+    /// Forces a new read at the next query.
     void forget() { m_revision = 0; }
 
 private:

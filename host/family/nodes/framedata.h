@@ -4,13 +4,13 @@
 
 namespace Family {
 
-/// What a frame line says.
+/// The content of a frame line.
 struct FrameData
 {
     int group = 0;
     int number = 0;
     QPoint offset;
-    int delay = 1;  ///< ticks; -1 never ends
+    int delay = 1;  ///< ticks; -1: endless
     double scaleX = 1;
     double scaleY = 1;
     double angle = 0;  ///< degrees, counterclockwise

@@ -11,7 +11,7 @@ namespace Family {
 
 namespace {
 
-/// The tokens behind the name of an option; none at its default.
+/// The tokens after the name of an option; none if it has its default value.
 QStringList optionElements(int option, const FrameData& data)
 {
     const FrameData standard;
@@ -64,7 +64,7 @@ QString optionCode(int option, const QStringList& elements)
     return option == LoopOption ? name : name + QLatin1Char(' ') + elements.join(QLatin1Char(','));
 }
 
-/// Takes an option out of a line, with the blanks in front of it.
+/// Removes an option from a line, with the blanks before it.
 Replacement withoutOption(const QString& line, const LinePart& part)
 {
     int start = part.start;
@@ -74,8 +74,8 @@ Replacement withoutOption(const QString& line, const LinePart& part)
     return {start, part.end, QString()};
 }
 
-/// Puts an option behind the last one that the docs name before it. The blanks
-/// in front are those of the first option of the line, or two.
+/// Inserts an option in the order of the documentation. It is separated by as many blanks as the
+/// first option of the line, or by two.
 Replacement withOption(const NodeLine& line, const LinePart& sprite, int option,
                        const QString& code)
 {
@@ -157,7 +157,7 @@ bool writeOption(FrameNode* frame, int option, const FrameData& wanted)
     } else if (after.isEmpty()) {
         replaceColumns(frame, {withoutOption(line.text, *part)});
     } else {
-        // An option that stands at its default in words has no tokens in `before`.
+        // An option written out at its default value has no tokens in `before`.
         replaceColumns(frame, elementEdits(line, *part, before, after));
     }
     return true;
@@ -210,7 +210,7 @@ bool optionFromText(int option, const QString& text, FrameData* data, QString* e
         data->flip = 0;
         return true;
     }
-    // The text goes through the reader of frame lines, as the line itself will.
+    // Uses the same reader as the line itself, so that both accept the same texts.
     const QString code =
         QStringLiteral("0,0 ") + frameOption(option).name + QLatin1Char(' ') + trimmed;
     LineDetails details;

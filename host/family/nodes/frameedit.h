@@ -6,23 +6,22 @@ namespace Family {
 
 class FrameNode;
 
-/// Writes the group and number of a frame's sprite. False, and no edit, for
-/// numbers out of range.
+/// Writes the group and number of a frame's sprite. False, without an edit, if out of range.
 bool writeSprite(FrameNode* frame, int group, int number);
 
-/// Writes one option (`FrameOptionIndex`) as `wanted` has it: only tokens that
-/// differ change, an option at its default leaves the line, a new one goes to
-/// its place in the order of the docs. False, and no edit, for a value that the
-/// option does not take.
+/// Writes one option (`FrameOptionIndex`) with its value in `wanted`. Changes only tokens that
+/// differ, removes an option that becomes default, and inserts a new one in the order of the
+/// documentation. False, without an edit, for a value that the option does not accept.
 bool writeOption(FrameNode* frame, int option, const FrameData& wanted);
 
-/// The line of a frame, with the options that are not at their defaults, in the order of the docs.
+/// The line of a frame: all options that differ from their defaults, in the order of the
+/// documentation.
 QString frameText(const FrameData& data);
 
-/// The value of an option as code, also at its default: "0, 0", "h", "yes" or "no" for `loop`.
+/// The value of an option as code, even if default: "0, 0", "h", "yes" or "no" for `loop`.
 QString optionText(int option, const FrameData& data);
 
-/// The reverse. False, with `error`, for a text that does not fit.
+/// The reverse. False, with `error`, for an invalid text.
 bool optionFromText(int option, const QString& text, FrameData* data, QString* error);
 
 }  // namespace Family

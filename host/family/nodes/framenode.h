@@ -10,9 +10,8 @@ namespace Family {
 
 class FrameBoxes;
 
-/// A frame line of an animation. Setters change the one token of the line that
-/// they mean; an option is added in the order of the docs and leaves the line
-/// when it goes back to its default.
+/// A frame line of an animation. A setter changes only its own token of the line. An option that
+/// becomes default is removed; a new one is inserted in the order of the documentation.
 class FrameNode final : public Zorv::FrameCode
 {
 public:
@@ -46,11 +45,11 @@ public:
     QVariant property(const QString& name) const override;
     void setProperty(const QString& name, const QVariant& value) override;
 
-    /// The attack boxes if bit 0 of `type` is set, else the body boxes.
+    /// The attack boxes if bit 0 of `type` is set, otherwise the body boxes.
     Zorv::ContactBoxesCode* contactBoxes(Zorv::ContactBoxCode::BoxType type) const override;
     void boxesChanged() override;
 
-    /// For the parser: the same line with other content. Tells the animation.
+    /// For the parser: same line, new content. Notifies the animation.
     void update(const FrameData& data);
 
     void release() override;

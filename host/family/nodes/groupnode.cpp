@@ -29,7 +29,7 @@ GroupNode::~GroupNode()
     BoxNode::raiseRevision();
 }
 
-/// The group that a sub-group belongs to, null without one and for other groups.
+/// The main group of a sub-group; null if it has none, and for other groups.
 GroupNode* GroupNode::groupAbove() const
 {
     auto* above = m_info->isSubGroup() ? previous(Group, Animation) : nullptr;

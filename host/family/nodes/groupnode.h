@@ -6,8 +6,7 @@ namespace Family {
 
 struct GroupInfo;
 
-/// The head of a group or sub-group. A sub-group without a group above it is a
-/// child of the root.
+/// The head of a group or sub-group. A sub-group without a group above is a child of the root.
 class GroupNode final : public Zorv::GroupCode
 {
 public:
@@ -17,27 +16,27 @@ public:
     /// The row of the table.
     const GroupInfo* info() const { return m_info; }
 
-    /// The text behind the group's name, empty for a group that takes none.
+    /// The text after the group's name; empty for a group without argument.
     QString argument() const { return m_argument; }
 
-    /// The argument of a group that takes one, else the name in the brackets,
-    /// without the dot. An unknown group's is read from its line.
+    /// The argument of a group that has one; otherwise the name in the brackets, without the dot.
+    /// For an unknown group it is read from the line.
     QString name() const override;
 
-    /// As in the brackets: "move fireball", ".walk".
+    /// As written in the brackets: "move fireball", ".walk".
     QString displayName() const override;
 
-    /// Edits the head line: the argument of a group that takes one, else the
-    /// name. Nothing for a name that cannot be written.
+    /// Edits the head line: the argument of a group that has one, otherwise the name. Does nothing
+    /// for an invalid name.
     void setName(const QString& name) override;
 
-    /// With the comments directly above while they travel, see `CommentTravel`.
+    /// Includes the comments directly above while they travel, see `CommentTravel`.
     int firstLine() const override;
 
-    /// The first sub-group of that name, null without one; sub-groups of a sub-group do not exist.
+    /// The first sub-group with that name; null if none. Sub-groups do not nest.
     GroupNode* subGroup(const QString& name) const;
 
-    /// For the parser: the same head with another argument. Tells the parent.
+    /// For the parser: same head, new argument. Notifies the parent.
     void update(const QString& argument);
 
     void childChanged(Zorv::CodeNode* child) override;

@@ -8,12 +8,12 @@ class CodeNode;
 
 namespace Family {
 
-/// True for a line with a comment and nothing else.
+/// True for a line that contains only a comment.
 bool isCommentLine(const QTextBlock& line);
 
-/// The first line of the head of an animation or group. While its document says that comments
-/// travel, the comments directly above belong to it: all lines of comments up to the first other
-/// one, an empty one too.
+/// The first line that belongs to the head of an animation or group. While comments travel in its
+/// document, this includes the comment lines directly above, up to the first other line, even an
+/// empty one.
 int firstLineOfHead(const Zorv::CodeNode* head);
 
 }  // namespace Family

@@ -18,8 +18,8 @@ namespace {
 
 const QChar commentMark = QLatin1Char(Grammar::CommentChar);
 
-/// `CodeNode::change()` keeps what follows the first comment character behind
-/// one blank. True, with the text to give to it, if that makes the wanted line.
+/// `CodeNode::change()` keeps the text after the first comment character and puts one blank before
+/// it. True, with the code to pass to it, if this gives the wanted line.
 bool fitsChange(const Zorv::CodeDocument* document, const QString& present, const QString& wanted,
                 QString* code)
 {

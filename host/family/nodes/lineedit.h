@@ -11,7 +11,7 @@ class CodeNode;
 
 namespace Family {
 
-/// New text for columns of a line.
+/// New text for a range of columns.
 struct Replacement
 {
     int start;
@@ -22,16 +22,15 @@ struct Replacement
 /// The line of a node and its parts.
 struct NodeLine
 {
-    /// Reads the line under the node's own head. Empty for a node without one.
+    /// Reads the line in the context of the node. `details` is empty for a node without a document.
     explicit NodeLine(const Zorv::CodeNode* node);
 
     QString text;
     LineDetails details;
 };
 
-/// Edits the line of a node: the replaced columns alone change, a comment
-/// stays. Nothing to replace leaves the document alone. The node may be another
-/// one afterwards.
+/// Edits the line of a node: changes only the replaced columns and keeps a comment. Without
+/// replacements the document is not changed. The edit may replace the node.
 void replaceColumns(Zorv::CodeNode* node, QVector<Replacement> replacements);
 
 }  // namespace Family

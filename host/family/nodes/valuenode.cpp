@@ -20,14 +20,14 @@ void noteKey(const KeyInfo* key)
     revisionOfPaths += key->form == Form::Path ? 1 : 0;
 }
 
-/// The columns that make a line hold other elements: those that differ, and
-/// the ends of a list that grows or shrinks.
+/// The replacements that give a line other elements: elements that differ, and the end of a list
+/// that grows or shrinks.
 QVector<Replacement> elementReplacements(const LinePart& whole, const QVector<LinePart>& present,
                                          const QStringList& oldTexts, const QStringList& newTexts)
 {
     const bool known = !present.isEmpty() && present.size() == oldTexts.size();
     if (!known) {
-        // Behind '=' without a value, the one blank that belongs there comes along.
+        // A line with nothing after '=' also gets the usual blank.
         const QString blank = whole.start == whole.end ? QStringLiteral(" ") : QString();
         return {{whole.start, whole.end, blank + newTexts.join(QLatin1String(", "))}};
     }

@@ -40,7 +40,7 @@ QString numberText(Form form, const QVariant& number)
     }
 }
 
-/// Reads a code text, which must hold the value and nothing else.
+/// Reads code that must contain the value and nothing else.
 QVariant readWhole(const KeyInfo& key, const QString& code, QString* error)
 {
     LineDetails details;
