@@ -9,7 +9,7 @@ namespace {
 const int MostNames = 10;
 const int MostRecords = 20;
 
-/// Makes the texts of this file known to translators.
+/// Translation context of this file.
 class Text
 {
     Q_DECLARE_TR_FUNCTIONS(Family)
@@ -41,7 +41,8 @@ void AssetCheck::checkSounds(const AssetFacts& facts)
 
 void AssetCheck::check(const AssetFacts& facts, Uses uses, ProblemId missing, ProblemId unused)
 {
-    // What is missing or unused may only seem to be, with a broken record.
+    // With a broken record, things may only seem to be missing or unused, so report just the
+    // faults.
     if (!facts.faults.isEmpty()) {
         tellFaults(facts.faults);
         return;

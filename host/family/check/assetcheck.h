@@ -7,12 +7,12 @@
 
 namespace Family {
 
-/// The problems of the sprites or sounds of a project, and of what names them.
+/// Finds the problems of a project's sprites or sounds and of the lines that use them.
 class AssetCheck
 {
 public:
-    /// `place` is the path of a file that is there, in the main file. Only with `isComplete` all
-    /// that could name its sprites and sounds is known.
+    /// `place` is the path in the main file; that file must exist. Set `isComplete` only if all
+    /// code that could use its sprites and sounds is known.
     AssetCheck(const NamedPlace& place, const QVector<FactStore::Code>& code, bool isComplete)
         : m_place(place), m_code(code), m_isComplete(isComplete)
     {

@@ -27,7 +27,7 @@ namespace {
 
 constexpr int Lz5Colours = 32;
 
-/// Up to the last one that is not black: files are often filled up to 256.
+/// The number of colours without trailing black ones: files are often padded to 256.
 int coloursOf(const PaletteColors& colors, int count)
 {
     while (count > 0) {
@@ -40,7 +40,7 @@ int coloursOf(const PaletteColors& colors, int count)
     return count;
 }
 
-/// What the sprites do with a palette.
+/// How sprites use a palette.
 struct PaletteUse
 {
     AssetId id;
@@ -90,7 +90,8 @@ void takeSpriteData(const SpriteFileData& data, AssetFacts* facts)
     takePalettes(palettes, facts);
 }
 
-/// Each palette of a folder is that of an image, and none is stored as LZ5.
+/// In a folder each palette belongs to an image and none is stored as LZ5, so palettes need no
+/// check.
 void takeFolder(const QString& folder, AssetFacts* facts)
 {
     const FolderContent content = FolderContent::read(*Zorv::FileSystemArchive::instance(), folder);
@@ -117,7 +118,8 @@ AssetFacts factsOfSprites(const SpriteCollection* sprites)
 {
     AssetFacts facts;
     facts.isReadable = true;
-    // The list is that of the reading, and outlives the records that it tells of.
+    // `loadErrors()` dates from the last load and may name records that were removed since. So it
+    // counts only while broken records exist.
     facts.faults = sprites->brokenCount() > 0 ? sprites->loadErrors() : QStringList();
     QVector<PaletteUse> palettes;
     QHash<const FamilyPalette*, int> places;

@@ -13,20 +13,20 @@ class ProjectFile;
 
 namespace Family {
 
-/// All that a check has to know of a file of sprites or sounds. Any thread may look at it.
+/// All that a check needs to know about a file of sprites or sounds. Usable from any thread.
 struct AssetFacts
 {
-    bool isReadable = false;     ///< it is such a file, and not cut off in its tables
-    QStringList faults;          ///< a line for each broken record, for the person
-    QVector<AssetId> ids;        ///< of its sprites or sounds, in their order
-    QStringList unusedPalettes;  ///< that no sprite has and no remap names
-    QStringList cutPalettes;     ///< whose sprites are all stored in a codec of fewer colours
+    bool isReadable = false;     ///< it has the right format and complete tables
+    QStringList faults;          ///< one line per broken record, for the user
+    QVector<AssetId> ids;        ///< of its sprites or sounds, in order
+    QStringList unusedPalettes;  ///< that no sprite uses and no remap names
+    QStringList cutPalettes;     ///< whose sprites all use a codec with fewer colours
 };
 
-/// Reads the tables of a file or folder, without making its models. Any thread.
+/// Reads the tables of a file or folder without building models. Any thread.
 AssetFacts assetFacts(Zorv::FileID::Type type, const QString& path);
 
-/// The same of sprites or sounds as they stand, saved or not.
+/// The same for sprites or sounds in memory, saved or not.
 AssetFacts assetFacts(const Zorv::ProjectFile* file);
 
 }  // namespace Family

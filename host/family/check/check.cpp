@@ -17,7 +17,7 @@ namespace Family {
 
 namespace {
 
-/// Makes the texts of this file known to translators.
+/// Translation context of this file.
 class Text
 {
     Q_DECLARE_TR_FUNCTIONS(Family)
@@ -31,7 +31,7 @@ Problems checkCodeFile(const QString& fileName, QString* error)
                : Problems();
 }
 
-/// The broken records of a sprite or sound file.
+/// The broken records of a sprite or sound file, as problems.
 Problems checkAssets(const QString& fileName, const QStringList& lines)
 {
     Problems problems;

@@ -4,13 +4,13 @@
 
 namespace Family {
 
-/// How a file lies on the disk: when two of these are equal, it need not be read again.
+/// The state of a file on disk: if two are equal, the file need not be read again.
 ///
-/// Links are followed. A folder is as all that lies in it.
+/// Follows links. The state of a folder includes the files directly in it.
 class DiskState
 {
 public:
-    /// Nothing is there.
+    /// Nothing exists.
     DiskState() = default;
 
     static DiskState of(const QString& path);
@@ -25,7 +25,7 @@ private:
     quint64 m_inode = 0;
     quint64 m_size = ~quint64(0);
     quint64 m_written = 0;  // nanoseconds
-    quint64 m_changed = 0;  // owner and permissions count too
+    quint64 m_changed = 0;  // status change time: includes owner and permissions
 };
 
 }  // namespace Family

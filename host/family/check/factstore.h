@@ -11,9 +11,9 @@
 
 namespace Family {
 
-/// What the files of a game say, each read once and kept until it is forgotten.
+/// A cache of the content of a game's files. Each file is read once and kept until it is forgotten.
 ///
-/// A text, or sprites and sounds, that somebody else has take the place of their file. Used by one
+/// A text, or sprites and sounds, that are being edited replace their file. Not thread-safe: one
 /// thread at a time.
 class FactStore
 {
@@ -21,43 +21,44 @@ public:
     using Code = std::shared_ptr<const FileFacts>;
     using Assets = std::shared_ptr<const AssetFacts>;
 
-    /// Names in problems are relative to the folder.
+    /// Names in problems are relative to `gameFolder`.
     explicit FactStore(const QString& gameFolder);
 
-    /// What the problems have for a file.
+    /// The name of a file as used in problems.
     QString shownName(const QString& path) const { return m_game.relativeFilePath(path); }
     QString gameFolder() const { return m_game.absolutePath(); }
 
-    /// What a code file says, read as one of a kind. `FileFacts::error` tells if it cannot be read.
+    /// The content of a code file, read as a certain kind. If it cannot be read, `FileFacts::error`
+    /// is set.
     Code code(const QString& path, FileKind kind);
     Assets assets(Zorv::FileID::Type type, const QString& path);
 
-    /// What stands in the place of a file from now on; null for the file itself.
+    /// Replaces a file from now on; null for the file itself.
     void setText(const QString& path, const std::shared_ptr<const SourceText>& text);
     void setAssets(const QString& path, const Assets& assets);
 
-    /// The text in the place of a file; null if there is none.
+    /// The text that replaces a file; null if there is none.
     std::shared_ptr<const SourceText> text(const QString& path) const;
 
-    /// True if something stands in the place of the file, so that it need not be there.
+    /// True if the file is replaced, so that it need not exist.
     bool isReplaced(const QString& path) const;
 
-    /// The main files of which a text stands in the place.
+    /// The main files that are replaced by a text.
     QStringList mainTexts() const;
 
-    /// The path is looked at from now on, whether there is a file or not.
+    /// Watches the path from now on, whether or not a file exists.
     void watch(const QString& path);
 
-    /// The paths that are looked at and lie otherwise on the disk than when they were last.
+    /// The watched paths whose state on disk has changed since they were last read.
     QStringList changedOnDisk() const;
 
-    /// What is kept of a file is read again when it is asked for.
+    /// Drops the cached content, so that the file is read again on demand.
     void forget(const QString& path);
 
-    /// Nobody asks for the path any more.
+    /// Drops everything about the path, which nobody needs any more.
     void drop(const QString& path);
 
-    /// How many files have been read, and texts looked through.
+    /// The number of files read and texts parsed.
     int readCount() const { return m_readCount; }
 
 private:
@@ -65,7 +66,7 @@ private:
     {
         QHash<int, Code> code;  // by kind
         QHash<int, Assets> assets;
-        DiskState state;  // taken before anything is read
+        DiskState state;  // taken before reading
         bool isWatched = false;
         std::shared_ptr<const SourceText> text;
         Assets ownAssets;

@@ -13,7 +13,7 @@ namespace Family {
 
 namespace {
 
-/// Where the names stand that values of a form refer to; null if they name nothing.
+/// The list that collects the uses of names by values of this form; null if the form names nothing.
 QVector<NamedPlace>* usesOf(Form form, FileFacts* facts)
 {
     switch (form) {
@@ -28,7 +28,7 @@ QVector<NamedPlace>* usesOf(Form form, FileFacts* facts)
     }
 }
 
-/// One pass over the lines of a text.
+/// Reads the lines of a text in a single pass.
 class TextPass
 {
 public:
@@ -217,7 +217,7 @@ void TextPass::seeValue(const ParsedLine& line, const LineDetails& details, cons
     }
 }
 
-/// What the value names, and what it gives a name.
+/// Collects the names that a value uses and those that it defines.
 void TextPass::seeNames(const ParsedLine& line, const LineDetails& details, const QString& text)
 {
     QVector<NamedPlace>* uses = usesOf(line.key->form, m_facts);
@@ -308,7 +308,7 @@ void TextPass::closeAnimation()
     for (const NamedPlace& box : qAsConst(m_animation.boxes)) {
         tell(ProblemId::BoxesWithoutFrame, {}, box);
     }
-    // What a faulty line was meant to say about the end is not known.
+    // A faulty line may have been meant to loop or to end the animation, so do not guess.
     const bool ends =
         m_animation.loopLine > 0 || m_animation.endlessLine > 0 || m_animation.hasFaultyFrame;
     if (m_animation.frames == 0) {

@@ -13,13 +13,14 @@ namespace Family {
 
 class FamilyDocument;
 
-/// The text of a code file to be checked: a copy, which any thread may look at.
+/// The text of a code file to check: a copy that any thread may use.
 struct SourceText
 {
     QString text;  ///< lines end in '\n'
     FileKind kind = FileKind::Code;
 
-    /// The encoding, if the file does not come back from it byte for byte; else empty.
+    /// The encoding, if writing the text would not reproduce the file byte for byte; otherwise
+    /// empty.
     QString unfaithfulCodec;
 
     SourceText() = default;
@@ -27,7 +28,7 @@ struct SourceText
     SourceText(const Zorv::FileText& file, FileKind fileKind);
 };
 
-/// A name at its place in a file.
+/// A name and its position in a file.
 struct NamedPlace
 {
     QString name;
@@ -37,7 +38,7 @@ struct NamedPlace
     int length;
 };
 
-/// A sprite or a sound that a line names. A game has millions of them.
+/// A sprite or sound used by a line. Kept small, because a game has millions of them.
 struct AssetUse
 {
     AssetId id;
@@ -46,31 +47,31 @@ struct AssetUse
     int length;
 };
 
-/// All that a check has to know of a code file, from its text alone.
+/// All that a check needs to know about a code file, from its text alone.
 struct FileFacts
 {
     QString path;       ///< absolute; empty for a text without a file
-    QString file;       ///< what the problems have for a file
+    QString file;       ///< file name in problems
     Problems problems;  ///< of its lines, and within its groups and animations
     QVector<NamedPlace> animations;
     QVector<NamedPlace> commands;
     QVector<NamedPlace> moves;
-    QVector<NamedPlace> references;     ///< animations that values name
-    QVector<NamedPlace> commandUses;    ///< commands that moves name
-    QVector<NamedPlace> knownCommands;  ///< what an engine looks for, at the values that need it
-    QVector<NamedPlace> moveUses;       ///< moves that values name
+    QVector<NamedPlace> references;     ///< animations used by values
+    QVector<NamedPlace> commandUses;    ///< commands used by moves
+    QVector<NamedPlace> knownCommands;  ///< known to engines, at the values that need them
+    QVector<NamedPlace> moveUses;       ///< moves used by values
     QVector<AssetUse> sprites;
     QVector<AssetUse> sounds;
     QVector<FileReference> files;
 
-    /// Why the file could not be read, in words for the person; empty if it could.
+    /// Why the file could not be read, as a text for the user; empty on success.
     QString error;
 };
 
-/// Reads a text line by line. `file` is what the problems have for a file.
+/// Reads a text line by line. `file` is the file name in problems.
 FileFacts factsOf(const SourceText& source, const QString& file);
 
-/// A problem at a place.
+/// A problem at a position.
 Problem problemAt(ProblemId id, const QStringList& arguments, const NamedPlace& place);
 
 }  // namespace Family

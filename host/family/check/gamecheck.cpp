@@ -9,15 +9,16 @@
 
 #include <utility>
 
-// Two tables lead from what changes to what is due: `m_users` from a path to the projects whose
-// check has asked for it, there or not, and `m_tellers` from a file to the projects that have told
-// problems of it. A file that several share has the problems of all of them, each once.
+// Two tables limit what must be checked again. `m_users` maps a path to the projects whose check
+// needed it, even if it did not exist: when the path changes, these projects are due. `m_tellers`
+// maps a file to the projects that reported problems in it: the problems of a file are the union of
+// their reports, without duplicates, since projects can share files.
 
 namespace Family {
 
 namespace {
 
-/// What is wrong with folders stands beside the projects, as if it were one.
+/// Problems of folders are stored as if they came from one more project, with this name.
 const QString ofFolders;
 
 QString scopeOf(const QString& path)
@@ -61,7 +62,7 @@ void GameCheck::setMainFiles(const QStringList& mainFiles)
     m_due.insert(added.begin(), added.end());
 }
 
-/// Folders that hold projects which nobody can read. True if some are known to hold any.
+/// Reports folders with projects that nobody can read. True if some are known to contain one.
 bool GameCheck::lookAtFolders()
 {
     ProjectFindings findings;

@@ -9,63 +9,61 @@
 
 namespace Family {
 
-/// What a check has found since it was asked last.
+/// What a check has found since the last query.
 struct CheckNews
 {
-    QHash<QString, Problems> files;            ///< their problems now, by their names in them
-    QHash<QString, ProjectFindings> projects;  ///< without problems, by main file
+    QHash<QString, Problems> files;            ///< file name to its current problems
+    QHash<QString, ProjectFindings> projects;  ///< by main file, without problems
     QStringList goneProjects;                  ///< main files
 
     bool isEmpty() const { return files.isEmpty() && projects.isEmpty() && goneProjects.isEmpty(); }
 };
 
-/// The check of a game, or of one project of it, which keeps what it has found.
+/// An incremental check of a game, or of one project in it, that keeps its results.
 ///
-/// A change makes those projects due again that depend on it, and no others: `check()` takes one
-/// project at a time, so that whoever has other things to do can do them between. Texts and other
-/// content that are not saved take the place of their files. It uses no document and no object of
-/// the window: any thread may run it, one at a time.
+/// A change makes exactly those projects due again that depend on it. `check()` handles one project
+/// per call, so that the caller can do other things in between. Unsaved texts and other content
+/// replace their files. Uses no document and no object of the window: any thread may run it, one at
+/// a time.
 class GameCheck
 {
 public:
-    /// `path` is a game folder, a folder in a game, or a main file, for its project alone. Nothing
-    /// is looked at before `look()`.
+    /// `path` is a game folder, a folder in a game, or a main file; the latter checks its project
+    /// alone. Reads nothing before `look()`.
     explicit GameCheck(const QString& path);
 
-    /// The folder to which the names in the problems are relative.
+    /// The folder to which names in the problems are relative.
     QString folder() const { return m_facts.gameFolder(); }
 
-    /// Looks which projects there are, and which files have changed on the disk. False if there is
-    /// no project.
+    /// Looks for projects and for files that have changed on disk. False if there is no project.
     bool look();
 
-    /// Looks at one file again, whatever the disk says about it.
+    /// Makes the users of one file due again, whether or not it has changed on disk.
     void lookAt(const QString& path);
 
-    /// What stands in the place of a file from now on; null for the file itself. A main file need
-    /// not be there.
+    /// Replaces a file from now on; null for the file itself. A replaced main file need not exist.
     void setText(const QString& path, const std::shared_ptr<const SourceText>& text);
     void setAssets(const QString& path, const FactStore::Assets& assets);
 
-    /// All is read anew, as in another language.
+    /// Forces everything to be read again, for example after a change of language.
     void forgetAll();
 
-    /// The projects of these main files are checked before others.
+    /// Checks the projects of these main files before others.
     void prefer(const QStringList& mainFiles) { m_preferred = mainFiles; }
 
     /// True if no project is due.
     bool isDone() const { return m_due.empty(); }
 
-    /// Checks one of the projects that are due.
+    /// Checks one of the due projects.
     void check();
 
-    /// All problems, in their order.
+    /// All problems, sorted.
     Problems problems();
 
-    /// What has changed since the last call.
+    /// The changes since the last call.
     CheckNews takeNews();
 
-    /// How many files have been read, texts looked through, and projects checked.
+    /// The number of files read, texts parsed and projects checked.
     int workCount() const { return m_facts.readCount() + m_checkCount; }
 
 private:
@@ -84,12 +82,12 @@ private:
     QHash<QString, ProjectFindings> m_projects;
     std::set<QString> m_due;
     QStringList m_preferred;
-    QSet<QString> m_onDisk;                   // the main files
-    QHash<QString, QSet<QString>> m_users;    // the projects that depend on a path
-    QHash<QString, ByFile> m_told;            // by each project, and of folders below ""
-    QHash<QString, QSet<QString>> m_tellers;  // the projects that have problems of a file
-    QMap<QString, Problems> m_problems;       // of each file that has any
-    QSet<QString> m_stale;                    // the files whose problems are to be put together
+    QSet<QString> m_onDisk;                   // existing main files
+    QHash<QString, QSet<QString>> m_users;    // path -> projects that depend on it
+    QHash<QString, ByFile> m_told;            // by project; problems of folders under ""
+    QHash<QString, QSet<QString>> m_tellers;  // file -> projects that report problems in it
+    QMap<QString, Problems> m_problems;       // by file
+    QSet<QString> m_stale;                    // files whose problems must be merged again
     CheckNews m_news;
     int m_checkCount = 0;
 };

@@ -9,7 +9,7 @@ namespace Family {
 
 namespace {
 
-/// Makes the texts of this file known to translators.
+/// Translation context of this file.
 class Text
 {
     Q_DECLARE_TR_FUNCTIONS(Family)

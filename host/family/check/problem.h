@@ -7,13 +7,13 @@
 
 namespace Family {
 
-/// A problem at its place.
+/// A problem and its position.
 struct Problem
 {
-    QString file;    ///< as the check was asked: a path
+    QString file;    ///< a path in the form passed to the check
     int line = 1;    ///< from 1
     int column = 1;  ///< from 1
-    int length = 0;  ///< characters that are meant; 0 for the whole line
+    int length = 0;  ///< in characters; 0 for the whole line
     Level level = Level::Error;
     ProblemId id = ProblemId::LineUnknown;
     QString text;
@@ -23,17 +23,17 @@ using Problems = QVector<Problem>;
 
 bool operator==(const Problem& a, const Problem& b);
 
-/// Order by file, line, column, kind and text; equal ones are left once.
+/// Sorts by file, line, column, kind and text; removes duplicates.
 void sortProblems(Problems* problems);
 
 /// "file:line:column: error: text".
 QString problemLine(const Problem& problem);
 
-/// How many problems there are.
+/// The number of problems.
 struct ProblemTally
 {
     int errors = 0;
-    int warnings = 0;  ///< and what is deprecated
+    int warnings = 0;  ///< including deprecated things
 
     void add(const Problems& problems);
     bool isEmpty() const { return errors + warnings == 0; }

@@ -49,7 +49,7 @@ ProjectFindings ProjectCheck::run()
         const QString name = m_facts->shownName(m_found.mainFile);
         const QString reason = unreadableReason(m_found.mainFile);
         tell(ProblemId::FileUnreadable, {name, reason}, {{}, name, 1, 1, 0});
-        // Each text has advice of its own.
+        // A file that can be opened but not used has an error text with its own advice.
         Problem& problem = m_found.problems.last();
         problem.text = reason.isEmpty() ? main->error : problem.text;
         return m_found;
@@ -66,8 +66,8 @@ ProjectFindings ProjectCheck::run()
     return m_found;
 }
 
-/// The code files that the main file names, kind by kind. Each file is of one kind alone: the
-/// first.
+/// Reads the code files named by the main file, kind by kind. A file named as several kinds counts
+/// only as the first.
 void ProjectCheck::readNamed()
 {
     const FactStore::Code main = m_found.code.first();
@@ -91,7 +91,7 @@ void ProjectCheck::readNamed()
     }
 }
 
-/// What is wrong with the path is told with the path.
+/// A file that is missing or cannot be opened is reported with its path elsewhere.
 void ProjectCheck::tellUnread(const NamedPlace& place, const QString& path, const QString& error)
 {
     m_isComplete = false;
@@ -168,7 +168,7 @@ bool ProjectCheck::checkFile(const NamedPlace& place, const FileReference& refer
     return reason.isEmpty();
 }
 
-// The first one counts, as for every key that stands twice.
+// The first one counts, as for every duplicated key.
 void ProjectCheck::takeAsset(const NamedPlace& place, const FileReference& reference)
 {
     const bool isSprites = reference.type == FileID::Sprites;
@@ -186,7 +186,7 @@ void ProjectCheck::checkAnimations()
         animations += code->animations;
     }
     checkAnimationNames(animations, &m_found.problems);
-    // With a file missing, animations may only seem to be missing.
+    // If a file is missing, animations may only seem to be missing.
     if (!m_isComplete) {
         return;
     }
@@ -222,8 +222,8 @@ void ProjectCheck::checkUses(ProblemId id, QVector<NamedPlace> FileFacts::*uses,
     }
 }
 
-/// Moves that a stage comes by, through a file that it shares, are none of its own. With a file
-/// missing, what it names may only seem to be.
+/// A stage can share a file with moves, but they are not its own. If a file is missing, the names
+/// defined there may only seem to be missing.
 void ProjectCheck::checkNames()
 {
     if (m_kind == FileKind::Character && m_isComplete) {
@@ -234,7 +234,7 @@ void ProjectCheck::checkNames()
     }
 }
 
-/// Of a character that has commands: others are not begun for an engine yet.
+/// Only for a character with commands: others have not been prepared for an engine yet.
 void ProjectCheck::checkKnownCommands(const QStringList& names)
 {
     for (const FactStore::Code& code : qAsConst(m_found.code)) {
@@ -248,7 +248,7 @@ void ProjectCheck::checkKnownCommands(const QStringList& names)
     }
 }
 
-/// A character that somebody has begun to make for an engine. Others lack nothing yet.
+/// Only for a character that has been prepared for an engine. Others lack nothing yet.
 void ProjectCheck::checkNeeded(const QVector<NamedPlace>& animations, const QStringList& names)
 {
     const bool hasCommands =

@@ -6,20 +6,20 @@
 
 namespace Family {
 
-/// What the check of a project has found, and what it comes from.
+/// The result of checking a project, and its inputs.
 struct ProjectFindings
 {
     QString mainFile;
     Problems problems;
-    QStringList paths;              ///< absolute, of all files that it depends on, there or not
-    QVector<FactStore::Code> code;  ///< what its code files say, that of the main file first
-    QString sprites;                ///< absolute; empty if it names none that are there
+    QStringList paths;              ///< absolute; all files it depends on, existing or not
+    QVector<FactStore::Code> code;  ///< content of its code files, main file first
+    QString sprites;                ///< absolute; empty if no existing file is named
     QString sounds;
 };
 
-/// Checks a project: its code files, the files that it names, and references between them.
+/// Checks a project: its code files, the files that they name, and the references between them.
 ///
-/// A main file that cannot be read is a problem by itself.
+/// If the main file cannot be read, that is the only problem reported.
 class ProjectCheck
 {
 public:
@@ -51,12 +51,12 @@ private:
     ProjectFindings m_found;
     QSet<QString> m_known;
     QHash<QString, PathFault> m_faults;
-    NamedPlace m_sprites;  // the paths in the main file, if the files are there
+    NamedPlace m_sprites;  // paths in the main file, if the files exist
     NamedPlace m_sounds;
-    bool m_isComplete = true;  // all that could name sprites and sounds is known
+    bool m_isComplete = true;  // all code that could use sprites and sounds is known
 };
 
-/// Tells every animation whose identifier an earlier one of the list has.
+/// Reports every animation whose identifier occurs earlier in the list.
 void checkAnimationNames(const QVector<NamedPlace>& animations, Problems* problems);
 
 }  // namespace Family

@@ -14,10 +14,10 @@ const QString rootName = QStringLiteral("completer");
 const QString originName = QStringLiteral("origin");
 const QString ownOrigin = QStringLiteral("zorv");
 
-/// Words with their descriptions, in order.
+/// Words with their descriptions, sorted.
 using Words = QMap<QString, QString>;
 
-/// A list opens behind its trigger, and with the first letter of one of its words.
+/// A list opens after its trigger and after the first letter of one of its words.
 QString triggersFor(const QString& trigger, const Words& words)
 {
     QStringList triggers{trigger};
@@ -51,8 +51,8 @@ Words groupWords(bool sub)
     return words;
 }
 
-/// The choices of all keys. What a key of one name takes in any group is offered
-/// behind it, for a trigger knows no group.
+/// The choices of all keys. A trigger does not know its group, so keys with the same name in
+/// different groups share one list.
 QMap<QString, Words> choiceWords()
 {
     QMap<QString, Words> lists;

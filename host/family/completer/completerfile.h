@@ -5,18 +5,16 @@
 
 namespace Family {
 
-/// The words of the grammar as a completer file, which docs/formats.md tells:
-/// groups behind "[", sub-groups behind "[.", the choices of each key behind its
-/// "=". It is made from the tables of the grammar, with their descriptions in the
-/// language of the program.
+/// The words of the grammar as a completer file; docs/formats.md describes the format. It offers
+/// groups after "[", sub-groups after "[.", and the choices of each key after its "=". Built from
+/// the tables of the grammar, with descriptions in the program's language.
 QByteArray completerXml();
 
-/// The name of the file in the family's folder of data.
+/// The name of the file in the family's data folder.
 QString completerFileName();
 
-/// True for the content of a completer file that is still the program's own: it may be
-/// written anew, with the words of this version and language. A person who changes the
-/// file takes the mark "origin" away.
+/// True if the program may overwrite a completer file with this content, with the words of this
+/// version and language. Users who change the file remove its mark "origin".
 bool isOwnCompleter(const QByteArray& content);
 
 }  // namespace Family

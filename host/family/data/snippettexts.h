@@ -4,14 +4,14 @@
 
 namespace Family {
 
-/// A text of the snippets that are shipped, as files of translations know it.
+/// A text in a shipped snippet, as translation files know it.
 struct SnippetText
 {
     const char* text;
     const char* comment;  ///< the field of the snippet; "snippet" for its name
 };
 
-/// All of them: no tool finds the texts of translations in the snippets themselves.
+/// All texts. They are repeated here because no tool extracts translations from snippet files.
 constexpr SnippetText snippetTexts[] = {
     QT_TRANSLATE_NOOP3("Snippets", "Attack animation", "snippet"),
     QT_TRANSLATE_NOOP3("Snippets", "Attack", "snippet"),

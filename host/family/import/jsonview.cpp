@@ -5,14 +5,14 @@
 #include <algorithm>
 #include <cstring>
 
-// The text is looked at once, by JsonScan, which knows the whole grammar. Views then only step over
-// what is known to be JSON.
+// JsonScan validates the whole text once, with the full grammar. After that, views only skip
+// through text that is known to be valid JSON.
 
 namespace Family {
 
 namespace {
 
-/// Makes the texts of this file known to translators.
+/// Translation context of this file.
 class Text
 {
     Q_DECLARE_TR_FUNCTIONS(Family::JsonView)
@@ -41,7 +41,7 @@ bool isHex(char c)
     return isDigit(c) || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
 }
 
-/// Finds out whether a text is JSON, and where it first is not.
+/// Finds out whether a text is JSON, and where its first error is.
 class JsonScan
 {
 public:
@@ -56,7 +56,7 @@ public:
         return m_at == m_end;
     }
 
-    /// Where the fault is.
+    /// The position of the error.
     const char* at() const { return m_at; }
     bool isTooDeep() const { return m_isTooDeep; }
 
@@ -134,7 +134,7 @@ private:
         return isClosed;
     }
 
-    /// Ends on its last letter.
+    /// On success stops at the last character of the escape.
     bool escape()
     {
         ++m_at;
@@ -195,7 +195,7 @@ const char* textEnd(const char* at)
     return at + 1;
 }
 
-/// Behind the value that begins here.
+/// The position after the value that begins here.
 const char* valueEnd(const char* at, const char* end)
 {
     int depth = 0;
@@ -233,7 +233,7 @@ QChar escaped(const char** at)
     return QLatin1Char(found ? to[found - from] : letter);
 }
 
-/// What stands between quotes.
+/// The text between two quotes, with escapes resolved.
 QString unescaped(const char* at, const char* end)
 {
     QString text;

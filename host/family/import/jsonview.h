@@ -7,44 +7,44 @@
 
 namespace Family {
 
-/// A value of a JSON text, read where it stands: nothing is built, so a text of any size costs no
-/// more memory than its bytes. Members come in the order of the text, also those whose key stands
-/// twice, which `QJsonObject` would sort and drop.
+/// A value in a JSON text, read in place. Nothing is built, so a text of any size needs no memory
+/// beyond its bytes. Members keep the order of the text, duplicate keys included; `QJsonObject`
+/// would sort them and drop duplicates.
 ///
-/// Good as long as the bytes that it was made of. Re-entrant.
+/// Valid as long as the bytes of the text. Re-entrant.
 class JsonView
 {
 public:
     enum Kind { None, Null, Bool, Number, String, Array, Object };
 
-    /// The most that is read.
+    /// Limits for the text.
     static constexpr int MaxBytes = 16 << 20;
     static constexpr int MaxDepth = 64;
 
-    /// None: what is not there.
+    /// `None`: a value that does not exist.
     JsonView() = default;
 
-    /// The value of a whole text, after a look at all of it. `None` with `error`, which names line
-    /// and column, for one that is not JSON, too long or too deep. A byte-order mark is skipped.
+    /// The value of a whole text, which is validated first. `None`, with `error` naming line and
+    /// column, if it is not JSON, too long or nested too deep. Skips a byte-order mark.
     static JsonView read(const QByteArray& bytes, QString* error);
 
     Kind kind() const;
     explicit operator bool() const { return m_begin != m_end; }
 
-    /// Of a bool; anything else gives `other`.
+    /// The value of a boolean; `other` for anything else.
     bool isTrue(bool other = false) const;
 
-    /// False, and no change, for anything but a number that a double can hold.
+    /// False, without a change, for anything but a number that fits into a double.
     bool readNumber(double* number) const;
 
-    /// Of a string, with its escapes as what they mean; anything else is empty.
+    /// The text of a string, with escapes resolved; empty for anything else.
     QString text() const;
 
-    /// The first member of an object with that key; `None` without one.
+    /// The first member of an object with that key; `None` if there is none.
     JsonView member(const char* key) const;
 
-    /// Shows the members of an object, or with empty keys the items of an array, in their order,
-    /// until `visit` gives false.
+    /// Visits the members of an object, or the items of an array with empty keys, in order, until
+    /// `visit` returns false.
     void forEach(const std::function<bool(const QString& key, const JsonView& value)>& visit) const;
 
 private:

@@ -15,15 +15,15 @@ namespace Family {
 struct SheetFrame
 {
     QString name;   ///< without folder and suffix; empty in a grid
-    int page = 0;   ///< of `Sheet::pages`
-    QRect rect;     ///< where it lies; empty for one without pixels
-    QPoint offset;  ///< of what lies there, in the original, whose empty edges were cut off
+    int page = 0;   ///< index in `Sheet::pages`
+    QRect rect;     ///< position on the page; empty if it has no pixels
+    QPoint offset;  ///< of `rect` in the original, whose empty edges were trimmed
     QSize original;
     QPoint axis;            ///< a pixel of the original
-    bool hasAxis = false;   ///< without it nothing is told of the axis
+    bool hasAxis = false;   ///< if false, the axis is unknown
     bool isTurned = false;  ///< by 90 degrees clockwise: `rect` is as high as the picture is wide
-    bool isLost = false;    ///< outside of the sheet: it counts, and is left out
-    int milliseconds = 0;   ///< 0 if nothing is told
+    bool isLost = false;    ///< outside of the sheet: keeps its index, is not imported
+    int milliseconds = 0;   ///< 0 if unknown
 };
 
 /// A run of frames.
@@ -32,42 +32,42 @@ struct SheetTag
     enum Direction { Forward, Reverse, PingPong, PingPongReverse };
 
     QString name;
-    int first = 0;  ///< of `Sheet::frames`; both belong to it
+    int first = 0;  ///< index in `Sheet::frames`; both ends included
     int last = 0;
     Direction direction = Forward;
-    int repeat = 0;  ///< 0 for without end
+    int repeat = 0;  ///< 0: endless
 };
 
-/// Frames in an order of their own.
+/// Frames in a custom order.
 struct SheetAnimation
 {
     QString name;
     QVector<int> frames;
 };
 
-/// What lies where on the pictures of a sheet.
+/// The layout of a sheet: where each frame is on its pictures.
 struct Sheet
 {
-    /// The most frames, and pixels across and down of a page and of an original.
+    /// Limits: number of frames; width and height of a page and of an original, in pixels.
     static constexpr int MaxFrames = 65536;
     static constexpr int MaxSide = 16384;
 
-    QStringList pages;           ///< what its pictures are called there; empty for "not told"
+    QStringList pages;           ///< names of its pictures; empty if unknown
     QVector<SheetFrame> frames;  ///< in the order of the file
     QVector<SheetTag> tags;
     QVector<SheetAnimation> animations;
     QStringList others;    ///< other files of the same set
-    QStringList warnings;  ///< a line each for the person
+    QStringList warnings;  ///< one line each, for the user
 };
 
-/// True if both show the same pixels of the same place.
+/// True if both show the same pixels at the same place.
 bool isSamePicture(const SheetFrame& a, const SheetFrame& b);
 
-/// The picture of a frame, upright, in the form of its page; null for one without pixels.
+/// The picture of a frame, upright, in the format of its page; null if it has no pixels.
 /// Re-entrant.
 QImage pictureOf(const QImage& page, const SheetFrame& frame);
 
-/// Marks frames that lie outside of their pages as lost, and tells of them.
+/// Marks frames outside of their pages as lost and adds a warning.
 void loseOutsiders(Sheet* sheet, const QVector<QSize>& pages);
 
 }  // namespace Family

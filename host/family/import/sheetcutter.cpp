@@ -14,15 +14,15 @@ namespace Family {
 
 namespace {
 
-constexpr int SmallestCell = 8;  // told by a name; less is a count
+constexpr int SmallestCell = 8;  // in a file name; smaller numbers are a count
 
-/// Makes the texts of this file known to translators.
+/// Translation context of this file.
 class Text
 {
     Q_DECLARE_TR_FUNCTIONS(Family::SheetCutter)
 };
 
-/// Knows which pixels of a picture are its ground.
+/// Knows which pixels of a picture are background.
 class Ground
 {
 public:
@@ -88,14 +88,14 @@ private:
     QRgb m_corner = 0;
 };
 
-/// A part of a side: the first pixel and how many.
+/// A part of a side: first pixel and number of pixels.
 struct Run
 {
     int first;
     int count;
 };
 
-/// The parts of a side that are not empty.
+/// The non-empty parts of a side.
 QVector<Run> runsOf(int length, const std::function<bool(int)>& isEmpty)
 {
     QVector<Run> runs;
@@ -163,7 +163,7 @@ bool Cutter::add(const QRect& rect, QString* error)
     return true;
 }
 
-/// The size of a cell and how many there are across and down.
+/// Computes the size of a cell and the number of columns and rows.
 bool Cutter::findCells(QSize* cell, QSize* counts, QString* error) const
 {
     const QSize room = m_size - QSize(2 * m_cut.edge, 2 * m_cut.edge);

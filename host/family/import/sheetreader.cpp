@@ -17,13 +17,13 @@ namespace {
 constexpr int MaxWarnings = 20;
 constexpr int MaxAnimationFrames = 1 << 20;
 
-/// Makes the texts of this file known to translators.
+/// Translation context of this file.
 class Text
 {
     Q_DECLARE_TR_FUNCTIONS(Family::SheetReader)
 };
 
-/// A folder in front and the suffix of a picture are no part of a name.
+/// A name without folder and picture suffix.
 QString plainName(const QString& name)
 {
     static const QRegularExpression suffix(QStringLiteral("\\.(png|aseprite|ase)$"),
@@ -32,7 +32,7 @@ QString plainName(const QString& name)
     return plain.remove(suffix);
 }
 
-/// A whole number of a range, also written as 1.0.
+/// Reads a whole number within a range; 1.0 is accepted too.
 bool readWhole(const JsonView& value, int least, int most, int* number)
 {
     double read = 0;
@@ -55,7 +55,7 @@ bool readPoint(const JsonView& value, int least, QPoint* point)
            readWhole(value.member("y"), least, Sheet::MaxSide, &point->ry());
 }
 
-/// A pixel for a part of a side: 0.5 and 1 are the middle and the last one.
+/// The pixel at a fraction of a side: 0.5 is the middle, 1 the last pixel.
 int pixelAt(double part, int length)
 {
     const double at = qBound(-32768.0, std::floor(part * length), 32767.0);
@@ -137,7 +137,7 @@ bool SheetReader::read(const JsonView& root)
     return true;
 }
 
-/// What else is written as JSON by programs for games.
+/// Recognises other JSON formats of game tools, to give a helpful error.
 bool SheetReader::refuseOthers(const JsonView& root)
 {
     const QString type = root.member("type").text();
@@ -198,7 +198,7 @@ bool SheetReader::readFrame(const QString& key, const JsonView& value, int page)
     return true;
 }
 
-/// Whether it is turned; what is cut to a polygon shows its neighbours.
+/// Reads the rotation. Refuses polygon cuts: their rectangles show parts of their neighbours.
 bool SheetReader::readShape(const JsonView& value, SheetFrame* frame)
 {
     bool hasCorners = false;
@@ -233,7 +233,7 @@ bool SheetReader::readPlace(const JsonView& value, SheetFrame* frame, QSize pict
     const QSize over = picture - inOriginal;
     if (hasSource && over.width() >= 0 && over.height() >= 0 && !over.isNull() &&
         over.width() % 2 == 0 && over.height() % 2 == 0 && !inOriginal.isEmpty()) {
-        // An edge was drawn around the picture inside of its place.
+        // The rectangle includes an edge that was added around the picture.
         const QPoint inset(over.width() / 2, over.height() / 2);
         corner += frame->isTurned ? QPoint(inset.y(), inset.x()) : inset;
         picture = inOriginal;
@@ -249,7 +249,7 @@ bool SheetReader::readPlace(const JsonView& value, SheetFrame* frame, QSize pict
     frame->rect = QRect(corner, frame->isTurned ? picture.transposed() : picture);
     frame->original = picture;
     readSize(value.member("sourceSize"), &frame->original);
-    // Cropped by hand, and its place kept: what is told of the middle is told of the crop.
+    // Cropped by hand at its old place: then the pivot refers to the cropped picture.
     const bool isCropped =
         !frame->offset.isNull() && frame->original == picture && !value.member("trimmed").isTrue();
     frame->original = frame->original.expandedTo(
@@ -310,7 +310,7 @@ void SheetReader::readTag(const JsonView& tag)
     m_sheet->tags.append(read);
 }
 
-/// Names of frames, in lists of a name each.
+/// Reads lists of frame names, one list per animation.
 void SheetReader::readAnimations(const JsonView& animations)
 {
     QHash<QString, int> places;

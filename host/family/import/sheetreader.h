@@ -7,10 +7,10 @@ namespace Family {
 
 struct Sheet;
 
-/// Reads the JSON that lies beside a sheet, of whichever program: frames as an object or as an
-/// array, by themselves, or in several `textures`. False, with `error` for the person, for anything
-/// else, such as a map or an animation of bones; a text that is wrong in one place is told with it.
-/// What can be left out without harm is in `warnings`. Re-entrant.
+/// Reads the JSON description of a sheet, as written by common programs: frames as an object or an
+/// array, at the top level or in several `textures`. False, with `error` for the user, for anything
+/// else, such as a map or a bone animation; an error in a text names its place. Things that can
+/// safely be ignored become `warnings`. Re-entrant.
 bool readSheet(const QByteArray& bytes, Sheet* sheet, QString* error);
 
 }  // namespace Family

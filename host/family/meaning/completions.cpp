@@ -11,8 +11,8 @@ namespace {
 
 using Words = QVector<WordOffer>;
 
-/// The groups below `parent`, 0 for those that are no sub-groups. A file of a kind
-/// that has some of its own offers no others.
+/// The groups below `parent`; 0 for main groups. If a kind of file has groups of its own, only
+/// these are offered.
 void addGroups(unsigned parent, FileKind file, Words* words)
 {
     for (const GroupInfo* group : Grammar::groups()) {
@@ -43,7 +43,7 @@ void addLineStarts(const LineHead& head, Words* words)
     }
     const QStringList keywords = Grammar::keywords();
     for (const QString& keyword : keywords) {
-        // An animation can begin anywhere, the others stand in one.
+        // An animation can begin anywhere; the other keywords belong inside one.
         if (head.kind == LineHead::Animation || keyword == keywords.first()) {
             words->append({keyword, Grammar::keywordMeaning(keyword)});
         }

@@ -4,19 +4,19 @@
 
 namespace Family {
 
-/// A command that engines know by its name: it does what a value of `[.run]` tells.
+/// A command that engines know by its name; a value of `[.run]` configures what it does.
 struct KnownCommand
 {
     const char* name;
-    const char* key;          ///< of `[.run]`
-    const char* motion;       ///< the usual one
-    const char* description;  ///< for a message, to be translated in the context "Family"
+    const char* key;          ///< in `[.run]`
+    const char* motion;       ///< the usual motion
+    const char* description;  ///< for messages, translated in the context "Family"
 };
 
-/// What a value of a sub-group needs; null for nothing.
+/// The command that a value of a sub-group needs; null for none.
 const KnownCommand* knownCommandOf(QLatin1String subGroup, QLatin1String key);
 
-/// The command of a name; null if engines know none of it.
+/// The command with this name; null if engines know none.
 const KnownCommand* knownCommand(const QString& name);
 
 }  // namespace Family

@@ -11,7 +11,7 @@ namespace Family {
 
 namespace {
 
-/// Reads the line up to the place, token by token, until it knows where that is.
+/// Reads the line token by token up to the position, until the context is clear.
 class ContextReader
 {
 public:
@@ -62,7 +62,7 @@ LineContext ContextReader::read()
     return m_context;
 }
 
-/// The word goes on behind the place.
+/// The word may continue after the position.
 void ContextReader::takeWord(LineContext::Kind kind, int start)
 {
     m_context.kind = kind;
@@ -112,7 +112,7 @@ void ContextReader::readValue(const QStringRef& key)
     }
 }
 
-/// All between the quotes is one word. A quote that closes it is left alone.
+/// Everything between the quotes is one word. Leaves the closing quote alone.
 void ContextReader::takeText(int quote)
 {
     if (m_scanner.text()) {
@@ -149,7 +149,7 @@ void ContextReader::readFrame()
         takeWord(LineContext::Flip, start);
         return;
     }
-    // Where the line is broken already, an option would not help.
+    // In a line that already has an error, an option would not help.
     const bool isBroken = std::any_of(
         details.problems.begin(), details.problems.end(),
         [](const LineProblem& problem) { return problemInfo(problem.id).level == Level::Error; });

@@ -8,16 +8,16 @@ class CodeDocument;
 
 namespace Family {
 
-/// What can be written at a place of a line, from the text in front of it.
+/// What can be inserted at a position in a line, judging by the text before it.
 struct LineContext
 {
     enum Kind : unsigned char {
         Nothing,
         GroupName,
         SubGroupName,
-        LineStart,  ///< a key, or a word that starts a line
-        Value,      ///< behind '=', of `key`
-        Option,     ///< of a frame, of which `options` are there
+        LineStart,  ///< a key, or a keyword that starts a line
+        Value,      ///< after '=' of `key`
+        Option,     ///< of a frame that already has `options`
         Flip
     };
 
@@ -25,18 +25,18 @@ struct LineContext
     LineHead head;
     const KeyInfo* key = nullptr;
     unsigned options = 0;   ///< bit `1 << FrameOptionIndex` for each
-    bool isQuoted = false;  ///< the place is within a text in quotes
+    bool isQuoted = false;  ///< the position is inside a quoted text
 
-    /// The columns of the word at the place, from its first to behind its last
-    /// character: what another word would replace.
+    /// The columns of the word at the position, which another word would replace; `end` is after
+    /// its last character.
     int start = 0;
     int end = 0;
 };
 
-/// The context of a column of a line under its head.
+/// The context of a column in a line that follows `head`.
 LineContext lineContext(const QString& line, int column, const LineHead& head);
 
-/// What a line of a document stands under.
+/// The head that a line of a document belongs to.
 LineHead headOfLine(const Zorv::CodeDocument* document, int line);
 
 }  // namespace Family

@@ -9,7 +9,7 @@ namespace Family {
 
 namespace {
 
-/// A row for each kind of name: its word, and the form of the values that refer to it.
+/// One row per kind of name: its word, and the form of the values that refer to it.
 struct KindRow
 {
     NameKind kind;
@@ -42,7 +42,8 @@ const KindRow* rowOf(NameKind kind)
     return findRow([kind](const KindRow& row) { return row.kind == kind; });
 }
 
-/// What values of a form refer to. Sprites and sounds are pairs, of which the key tells.
+/// The kind of thing that values of a form refer to. Sprites and sounds are number pairs; their
+/// kind depends on the key.
 NameKind namedBy(Form form)
 {
     const KindRow* row = form == Form::Any
@@ -81,7 +82,7 @@ LineName nameOfHead(const ParsedLine& line, const LineDetails& details)
     return {};
 }
 
-/// What a pair of numbers names.
+/// The kind of thing that a pair of numbers names.
 NameKind namedByPair(const GroupInfo* group, const KeyInfo* key)
 {
     if (group && group->isSubGroup() && group->name == QLatin1String("sound")) {
@@ -96,7 +97,7 @@ LineName nameOfValue(const QString& text, const ParsedLine& line, const LineHead
     const Form form = line.key->form;
     const LinePart* key = details.part(LinePart::Key);
     if (form == Form::MotionText && key) {
-        // The key is the command. It has its name whatever is wrong with the motion.
+        // The key is the command. It counts even if its motion is invalid.
         return at(key, NameKind::Command, true, text.mid(key->start, key->end - key->start));
     }
     if (!line.value.isValid()) {

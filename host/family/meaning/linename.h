@@ -5,7 +5,7 @@
 
 namespace Family {
 
-/// What a name of a line belongs to.
+/// The kind of thing that a name belongs to.
 enum class NameKind : unsigned char {
     None,
     Animation,
@@ -17,8 +17,7 @@ enum class NameKind : unsigned char {
     File
 };
 
-/// The name that a line gives to something, or by which it refers to something else. A line has one
-/// at most.
+/// A name that a line defines or refers to. A line has at most one.
 struct LineName
 {
     NameKind kind = NameKind::None;
@@ -27,31 +26,31 @@ struct LineName
                    ///< sounds empty
     AssetId id;    ///< of sprites and sounds
 
-    /// The columns of the word, from 0, with the quotes of a text.
+    /// The columns of the word, from 0, including quotes.
     int start = 0;
     int end = 0;
 
     bool isNone() const { return kind == NameKind::None; }
 
-    /// What the person calls it: the name, or "200,0".
+    /// The text shown to the user: the name, or "200,0".
     QString shown() const;
 };
 
-/// What a line names. `details` is what reading it has reported. None for a part that could not be
-/// read. This is the one list of what refers to what.
+/// The name in a line. `details` must come from reading that line. None for a part that could not
+/// be read. This is the single place that defines what refers to what.
 LineName nameOf(const QString& text, const ParsedLine& line, const LineHead& head,
                 const LineDetails& details);
 
-/// The form of the values that refer to things of a kind; `Form::Any` for sprites and sounds,
-/// which are pairs, and for palettes, to which no value refers.
+/// The form of values that refer to this kind of thing. `Form::Any` for sprites and sounds, which
+/// are number pairs, and for palettes, to which no value refers.
 Form formNaming(NameKind kind);
 
-/// The word for a kind on the command line, "animation", and the kind of a word.
+/// Converts a kind to its word on the command line ("animation") and back.
 QString nameKindWord(NameKind kind);
 NameKind nameKindOf(const QString& word);
 QStringList nameKindWords();
 
-/// The same for the person, in the language of the program: "Animation".
+/// The title of a kind in the program's language: "Animation".
 QString nameKindTitle(NameKind kind);
 
 }  // namespace Family

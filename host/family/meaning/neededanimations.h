@@ -5,7 +5,7 @@
 
 namespace Family {
 
-/// What an engine shows without being told by a move, in the order of the table.
+/// The roles of animations that an engine shows without a move naming them, in table order.
 enum class AnimationRole : unsigned char {
     Stance,
     Turn,
@@ -53,21 +53,21 @@ enum class AnimationRole : unsigned char {
 
 constexpr int AnimationRoleCount = int(AnimationRole::Lose) + 1;
 
-/// One animation that an engine looks for by its identifier: a row of the table.
+/// An animation that engines look up by its identifier: a row of the table.
 struct NeededAnimation
 {
     static constexpr int Nothing = -1;
 
     AnimationRole role;
     const char* identifier;
-    bool isBasic;    ///< a character should have it; for the others something else will do
-    int substitute;  ///< the role that is shown in its place, or `Nothing`
+    bool isBasic;    ///< every character should have it; the others can be substituted
+    int substitute;  ///< the role shown instead, or `Nothing`
 };
 
 const NeededAnimation& neededAnimation(AnimationRole role);
 
-/// The basic animations that a character with these identifiers lacks. None for one that does not
-/// even have a stance: nobody has begun to make it for an engine.
+/// The basic animations missing among these identifiers. Empty if even the stance is missing: then
+/// the character has not been prepared for an engine yet.
 QStringList missingBasics(const QStringList& identifiers);
 
 }  // namespace Family

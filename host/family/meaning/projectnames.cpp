@@ -21,7 +21,7 @@ namespace {
 
 using Zorv::CodeNode;
 
-/// Where a part of a node's line stands.
+/// The position of a part of a node's line.
 NamePlace placeOf(const FamilyDocument* document, const CodeNode* node, LinePart::Role role)
 {
     const NodeLine line(node);
@@ -43,7 +43,7 @@ void addAnimations(const FamilyDocument* document, QVector<NamedThing>* things)
     }
 }
 
-/// The groups of the document with that name in their heads.
+/// Visits the groups of the document with that name.
 template <class Take>
 void forGroups(const FamilyDocument* document, const char* name, Take take)
 {
@@ -109,8 +109,7 @@ void addSoundUses(const FamilyDocument* document, const QVector<int>& sound,
     });
 }
 
-/// The suffixes of files that a key of that type can name; empty for all that is
-/// no code.
+/// The suffix of files that a key of this type can name; empty for anything but code.
 QString suffixOf(Zorv::FileID::Type type)
 {
     switch (type) {

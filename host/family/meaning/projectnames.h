@@ -12,7 +12,7 @@ class FamilyDocument;
 class FamilyProject;
 struct GroupInfo;
 
-/// A place in a document; all from 0.
+/// A position in a document; all numbers from 0.
 struct NamePlace
 {
     const FamilyDocument* document = nullptr;
@@ -25,7 +25,7 @@ struct NamePlace
 struct NamedThing
 {
     QString name;
-    QString description;  ///< one line: the display name, the motion, ...
+    QString description;  ///< one line: display name, motion, ...
     NamePlace place;
 };
 
@@ -33,34 +33,34 @@ struct NamedThing
 struct SoundUse
 {
     QString move;
-    QString animation;  ///< that the move shows; empty if it names none
+    QString animation;  ///< used by the move; empty if it names none
     QString key;        ///< "hit" or "guard"
     NamePlace place;    ///< of the numbers
 };
 
-/// What a document refers to by names, in it and in the other documents of its
-/// project; those of the document itself come first.
+/// The names defined in a document and in the other documents of its project. Those of the document
+/// itself come first.
 class ProjectNames
 {
 public:
-    /// `project` is the document's, or null for none.
+    /// `project` is the document's project, or null.
     ProjectNames(const FamilyDocument* document, const FamilyProject* project);
 
-    /// All that a value of a form can name: animations, commands or moves. Empty
-    /// for any other form.
+    /// All names that a value of this form can use: animations, commands or moves. Empty for any
+    /// other form.
     QVector<NamedThing> named(Form form) const;
 
-    /// The files of the project's folder that a key can name, with the path that is
-    /// written there, in order. At most some hundreds.
+    /// The files in the project's folder that a key can name, as paths to write there, sorted. At
+    /// most some hundreds.
     QStringList files(const GroupInfo* group, const KeyInfo* key) const;
 
-    /// The file that a path in this document names; it need not be there.
+    /// The file that a path in this document names; it need not exist.
     QString filePath(const QString& path) const;
 
-    /// Every frame that shows a sprite, in the order of the documents.
+    /// All frames that use a sprite, in the order of the documents.
     QVector<NamePlace> frames(int group, int number) const;
 
-    /// Every value that plays a sound, in the order of the documents.
+    /// All values that play a sound, in the order of the documents.
     QVector<SoundUse> soundUses(int group, int number) const;
 
     const QList<const FamilyDocument*>& documents() const { return m_documents; }

@@ -5,13 +5,13 @@
 
 namespace Family {
 
-/// A word of a line that names something which stands elsewhere.
+/// A word in a line that refers to something elsewhere.
 struct Reference
 {
     enum Kind : unsigned char { None, File, Named, Sprite, Sound };
 
     Kind kind = None;
-    Form form = Form::Any;  ///< of a `Named` one
+    Form form = Form::Any;  ///< if `Named`
     QString name;           ///< the path of a file, or the name
     int group = 0;          ///< of a sprite or sound
     int number = 0;
@@ -21,27 +21,27 @@ struct Reference
     int end = 0;
 };
 
-/// The name in a line of a document, from 0, also where something gets it.
+/// The name in a line of a document (from 0), definitions included.
 LineName nameOfLine(const FamilyDocument* document, int line);
 
-/// What the word at a line and column of a document refers to, from 0. It costs
-/// no more than to read the line.
+/// What the word at a line and column of a document (from 0) refers to. Costs no more than reading
+/// the line.
 Reference referenceAt(const FamilyDocument* document, int line, int column);
 
-/// Where a reference leads.
+/// The target of a reference.
 struct Definition
 {
-    QString fileName;   ///< of a file, else empty
-    NamePlace place;    ///< otherwise; without a document if there is none
-    QString message;    ///< why there is none, for the person
+    QString fileName;   ///< of a file, otherwise empty
+    NamePlace place;    ///< for anything but a file; without a document if not found
+    QString message;    ///< why nothing was found, for the user
     int soundRow = -1;  ///< of a sound, in `FamilyProject::sounds()`
 
     bool isEmpty() const { return fileName.isEmpty() && !place.document && soundRow < 0; }
 };
 
-/// Looks for what is referred to: a file that is there, the first animation, command
-/// or move of the name, the first frame of the project that shows the sprite, other
-/// than that of `line`, the first sound of the numbers. Linear in what the project has of the kind.
+/// Looks up the target: an existing file; the first animation, command or move with the name; the
+/// first frame of the project that uses the sprite, other than that on `line`; or the first sound
+/// with the numbers. Linear in the number of such things in the project.
 Definition definitionOf(const Reference& reference, const FamilyDocument* document,
                         const FamilyProject* project, int line);
 

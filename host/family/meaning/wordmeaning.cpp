@@ -15,7 +15,7 @@ namespace Family {
 
 namespace {
 
-/// Tells of one line, once it is known which part of it is meant.
+/// Describes one part of a line.
 class MeaningReader
 {
     Q_DECLARE_TR_FUNCTIONS(Family::WordMeaning)
@@ -62,7 +62,7 @@ private:
     WordMeaning m_meaning;
 };
 
-/// The smallest part around the column.
+/// The smallest part that contains the column.
 const LinePart* MeaningReader::partAt(int column) const
 {
     const LinePart* found = nullptr;
@@ -200,7 +200,7 @@ QString MeaningReader::frameSummary(const AnimationNode* animation)
                            .arg(QString::number(animation->childCount()), QString::number(ticks));
 }
 
-/// The animation of that name, wherever it stands in the project.
+/// Describes the animation with that name, anywhere in the project.
 void MeaningReader::tellNamed(const QString& name)
 {
     const QList<const FamilyDocument*> documents = ProjectNames(m_document, m_project).documents();
@@ -253,7 +253,7 @@ void MeaningReader::tellValue(const LinePart* part)
     add(tr("Takes %1").arg(key->expectation()));
 }
 
-/// A number of a value, of an option or of a box.
+/// Describes a number of a value, an option or a box.
 void MeaningReader::tellElement(const LinePart* part)
 {
     if (m_line.kind == ParsedLine::Value) {

@@ -73,7 +73,7 @@ Zorv::EngineInfo FamilyEngineModel::engine(unsigned index) const
 {
     const bool isPlayerRow = int(index) == m_engines.size() && !m_player.executable.isEmpty();
     Zorv::EngineInfo engine = isPlayerRow ? m_player : m_engines.value(int(index));
-    // What lies in the current folder may be from anybody.
+    // Never resolve against the current folder: its files may come from anybody.
     if (!engine.executable.isEmpty()) {
         engine.executable = QDir::home().absoluteFilePath(engine.executable);
     }

@@ -8,8 +8,8 @@
 
 namespace Family {
 
-/// The engine family, with the engines that the person has configured as rows. Behind them comes
-/// the player of this program, if it is offered and there.
+/// The engine family. Its rows are the engines that the user has configured, and last this
+/// program's own player, if it is offered and installed.
 class FamilyEngineModel final : public Zorv::EngineModel
 {
     Q_OBJECT
@@ -17,34 +17,34 @@ class FamilyEngineModel final : public Zorv::EngineModel
 public:
     explicit FamilyEngineModel(QObject* parent = nullptr);
 
-    /// The one object of the process.
+    /// The single instance of the process.
     static FamilyEngineModel* instance();
 
     char commentChar() const override;
 
-    /// "zorv/family" in the person's folder for data of programs, without "/" at its end;
-    /// `prepareFamilyData()` fills it.
+    /// "zorv/family" in the user's data folder, without a trailing "/"; `prepareFamilyData()` fills
+    /// it.
     QString dataPath() const override;
     QString identifier() const override;
 
-    /// The name of the program that `setGameProgram()` has named; empty without one: what lies in
-    /// a game folder is nothing to be started by itself.
+    /// The name of the program set by `setGameProgram()`; empty without one, because a program in a
+    /// game folder must not be started without consent.
     QString executableName() const override;
     QString displayName() const override;
     int engineCount() const override;
 
-    /// To be started: a path that is not whole begins in the person's own folder. An empty record
-    /// outside of the list.
+    /// Ready to start: a relative path is resolved in the user's home folder. An empty record if
+    /// out of range.
     Zorv::EngineInfo engine(unsigned index) const override;
 
-    /// The player that is installed beside this program; empty if it is not there.
+    /// The player installed beside this program; empty if missing.
     static QString playerPath();
     static bool isPlayer(const QString& executable);
 
     /// Whether the player is a row.
     void setPlayerOffered(bool isOffered);
 
-    /// Changes to the list; the host keeps it in its settings.
+    /// Changes the list; the host stores it in its settings.
     void setEngines(const QVector<Zorv::EngineInfo>& engines);
     const QVector<Zorv::EngineInfo>& engines() const { return m_engines; }
 
@@ -55,15 +55,15 @@ public:
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     using QObject::parent;
 
-    /// The program of a game folder that may be started, for which the person was asked; one that
-    /// is not there for none, as at first.
+    /// The program in a game folder that may be started, with the user's consent. None if it does
+    /// not exist; initially none.
     void setGameProgram(const GameProgram& program) { m_program = program; }
     const GameProgram& gameProgram() const { return m_program; }
 
 private:
     GameProgram m_program;
     QVector<Zorv::EngineInfo> m_engines;
-    Zorv::EngineInfo m_player;  // without a path if it is no row
+    Zorv::EngineInfo m_player;  // without a path if it is not a row
 };
 
 }  // namespace Family

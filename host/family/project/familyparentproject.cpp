@@ -25,7 +25,7 @@ namespace {
 
 constexpr int deepestFolder = 12;
 
-/// Folders whose folders are projects each.
+/// Each folder inside these folders is a project.
 const QLatin1String projectFolders[] = {QLatin1String("characters"), QLatin1String("stages")};
 
 bool hasMainFile(const QString& folder)
@@ -33,7 +33,7 @@ bool hasMainFile(const QString& folder)
     return QDirIterator(folder, mainFileFilters(), QDir::Files | QDir::NoSymLinks).hasNext();
 }
 
-/// True if projects lie where they are expected in it: by themselves or each in a folder.
+/// True if projects are in the expected places: directly in the folder or one per subfolder.
 bool holdsProjects(const QString& folder)
 {
     if (hasMainFile(folder)) {
@@ -48,7 +48,8 @@ bool holdsProjects(const QString& folder)
     return false;
 }
 
-/// `below` is the folder in it that leads to what was asked for; empty for itself.
+/// `below` is the subfolder that leads to the requested path; empty if the folder itself was
+/// requested.
 bool isGameFolder(const QDir& folder, const QString& below)
 {
     return std::any_of(
@@ -57,7 +58,7 @@ bool isGameFolder(const QDir& folder, const QString& below)
         });
 }
 
-/// Folders beside an engine that hold the copy of a project as long as it runs.
+/// Folders beside an engine that hold the copy of a project while it runs.
 bool isRunFolder(const QString& name)
 {
     static const QRegularExpression pattern(QStringLiteral("^zorvs_[0-9]+-"));
@@ -81,8 +82,8 @@ void collectMainFiles(const QString& folder, int depth, QStringList* files)
     }
 }
 
-/// The absolute paths of a main file and of all that it and its code files
-/// name; empty if the main file cannot be read.
+/// The absolute paths of a main file and of all files that it and its code files name; empty if the
+/// main file cannot be read.
 QStringList filesOfProject(const QString& gameFolder, const QString& mainFile)
 {
     QStringList files{mainFile};
@@ -129,7 +130,7 @@ FamilyParentProject::FamilyParentProject(const QString& rootPath)
     }
 }
 
-/// A folder of main files that is not where projects are expected.
+/// Adds a folder with main files outside of the expected places.
 void FamilyParentProject::addLooseFolder(const QString& folder)
 {
     const QString below = folder.mid(absolutePath().size());
@@ -207,7 +208,7 @@ QString FamilyParentProject::runParameters(int kind) const
                                              : QStringLiteral("--character %0");
 }
 
-/// A folder that cannot be there: nothing of the engine's is touched.
+/// A new unique folder, so that nothing of the engine is touched.
 QString FamilyParentProject::runPath(int, const QString& name, bool* wholeFolder) const
 {
     *wholeFolder = true;
@@ -244,7 +245,7 @@ QStringList FamilyParentProject::runArguments(const QString& executable,
     return all;
 }
 
-/// Rows whose value is another one.
+/// Emits changes for rows whose values differ.
 template <class Value>
 void FamilyParentProject::tellRows(const QHash<QString, Value>& before,
                                    const QHash<QString, Value>& after)
@@ -295,7 +296,7 @@ QVariant FamilyParentProject::data(const QModelIndex& index, int role) const
     if (!item) {
         return value;
     }
-    // A main file of a closed project gives the path of its folder.
+    // For the main file of a closed project `absolutePath()` is the path of its folder.
     const bool isMainFile = item->isProject() && !item->isDirectory();
     const QString path =
         QDir::cleanPath(item->absolutePath() + (isMainFile ? item->pathName() : QString()));

@@ -31,7 +31,7 @@ constexpr quint32 codeTypes = FileID::Code | FileID::Animations | FileID::Comman
 
 constexpr int MostBrokenLines = 20;
 
-// Ends as all files of a project do.
+// Project files are destroyed by `release()`.
 struct Release
 {
     void operator()(Zorv::ProjectFile* file) const { file->release(); }
@@ -75,8 +75,8 @@ QString newText(FileKind kind)
     return text;
 }
 
-/// A document by itself always has its colours and problems; in a project that is the person's
-/// choice, as far as the host has a setting for it.
+/// A document outside of a project always has colours and problems. In a project the user's setting
+/// decides, if the host has one.
 void followSetting(Zorv::CodeDocument* document)
 {
     const QString key = QStringLiteral("highlightCode");
@@ -145,7 +145,7 @@ QList<FamilyDocument*> FamilyProject::documents() const
     return result;
 }
 
-/// What the first group of that name says in the main file.
+/// The value in the first group with that name in the main file.
 QVariant FamilyProject::mainValue(const char* groupName, const char* key) const
 {
     const FamilyDocument* document = mainDocument();
@@ -237,7 +237,7 @@ void FamilyProject::loadDocument(FileID::Type type, const QString& path)
     }
 }
 
-// A text can come back to a file that it named before.
+// The text can name a file again that is already loaded.
 void FamilyProject::selectAsset(FileID::Type type, const QString& path)
 {
     const QList<Zorv::ProjectFile*> list = filesByType(type);
@@ -248,8 +248,8 @@ void FamilyProject::selectAsset(FileID::Type type, const QString& path)
     }
 }
 
-// The last one that the text names is the one that counts, and broken records are no reason to
-// leave the others away.
+// Selects the new file, because the text names it now. Broken records are no reason to drop the
+// others.
 void FamilyProject::loadAsset(FileID::Type type, const QString& path)
 {
     NewFile file = newAsset(type, path);
@@ -308,8 +308,8 @@ QString FamilyProject::fileTitle(FileID::Type type, int index) const
     return QDir(absolutePath()).relativeFilePath(name);
 }
 
-/// The files inside of the project's folder: others stay where they are when
-/// the project is copied.
+/// Lists the files inside the project's folder; all others stay in place when the project is
+/// copied.
 void FamilyProject::fileInfos(QList<FileInfo>& list)
 {
     if (m_pathRevision != ValueNode::pathRevision() || m_pathsOf != fileName()) {
@@ -327,7 +327,7 @@ void FamilyProject::fileInfos(QList<FileInfo>& list)
     }
 }
 
-// A folder of sprites with changes goes as a whole, by its collection.
+// A modified folder of sprites is handled as a whole by its collection.
 QStringList FamilyProject::filesOf(FileID::Type type, const QString& path) const
 {
     const SpriteCollection* collection = type == FileID::Sprites ? sprites() : nullptr;
@@ -371,7 +371,7 @@ void FamilyProject::saveAll(const QString& path, bool asCopy, QStringList* files
     }
 }
 
-/// Another project may have brought the same file, with changes that this one does not have.
+/// Does not overwrite: another project may have copied the same file already, with its own changes.
 bool FamilyProject::copyShared(const QString& file, const QString& target)
 {
     Zorv::Archive& disk = *Zorv::FileSystemArchive::instance();

@@ -13,54 +13,51 @@ class SpriteCollection;
 
 /// A character or a stage with the code files that it names.
 ///
-/// Code files, animations and commands are loaded as documents, the sprites and sounds of its main
-/// file as collections; other resources are only named.
+/// Loads code files, animations and commands as documents, and the sprites and sounds of its main
+/// file as collections. Other resources are only named.
 class FamilyProject final : public Zorv::Project
 {
     Q_OBJECT
 
 public:
-    /// On a main document that has its file already, or none yet. The project
-    /// takes the document over.
+    /// `mainDocument` either has its file already or has none yet. The project takes ownership.
     FamilyProject(FamilyParentProject* parent, FamilyDocument* mainDocument);
 
-    /// Opens a main file with all that it names and registers it with the
-    /// parent. Null, with `error`, if the main file cannot be read; a file that
-    /// it names and that cannot be read is told in `loadErrors()`.
+    /// Opens a main file with all files that it names and registers it with the parent. Null, with
+    /// `error`, if the main file cannot be read. Other files that cannot be read are listed in
+    /// `loadErrors()`.
     static FamilyProject* open(FamilyParentProject* parent, const QString& mainFile,
                                QString* error);
 
-    /// A new project with a short text, not saved yet, registered likewise.
+    /// A new unsaved project with a short text, registered in the same way.
     static FamilyProject* create(FamilyParentProject* parent, FileKind kind);
 
     FamilyDocument* mainDocument() const;
 
-    /// The code documents of all kinds, the main one first.
+    /// The code documents of all kinds, main document first.
     QList<FamilyDocument*> documents() const;
 
-    /// The sprites and sounds of the project; null if it has none, or they could not be loaded.
+    /// The sprites and sounds of the project; null if it has none or they could not be loaded.
     SpriteCollection* sprites() const;
     SoundFile* sounds() const;
 
-    /// What `loadFiles()` could not load, a line each for the person; also the broken records of
-    /// sprites and sounds, of which the rest was loaded.
+    /// What `loadFiles()` could not load, one line each for the user. Includes broken records of
+    /// sprites and sounds whose other records were loaded.
     QStringList loadErrors() const { return m_loadErrors; }
 
-    /// The name in `[info]`, else the name of the main file.
+    /// The name in `[info]`, or else the name of the main file.
     QString title() const override;
 
-    /// `resolution` of `[info]`, and with it `scale` of `[constants]`, which is 1 if nothing is
-    /// said.
+    /// `resolution` in `[info]`, and its `scale` in `[constants]`, by default 1.
     QSize gameSize() const override;
     QPointF scale() const override;
 
-    /// Loads the code files that are named and not registered, and the first sprites and sounds.
-    /// Files outside of the game folder, and the main file itself, are refused.
+    /// Loads the named code files that are not registered yet, and the first sprites and sounds.
+    /// Refuses files outside of the game folder, and the main file itself.
     void loadFiles() override;
     Zorv::FileID fileTypes() const override;
 
-    /// An empty document or collection, registered, without a name; null for
-    /// any other kind.
+    /// A registered empty document or collection without a name; null for any other kind.
     Zorv::ProjectFile* newFile(Zorv::FileID::Type type) override;
     QString resolvePath(const QString& path) const override;
 
@@ -68,16 +65,16 @@ public:
     QString fileTitle(Zorv::FileID::Type type, int index) const override;
     void fileInfos(QList<FileInfo>& list) override;
 
-    /// The files of the game that the documents name and that lie outside of the
-    /// project's folder, relative to the game. Empty for a project without a file.
+    /// The files that the documents name in the game but outside of the project's folder, relative
+    /// to the game. Empty for a project without a file.
     QStringList sharedFiles() const;
 
-    /// A copy takes the shared files along, at their places in the game, or what names
-    /// them would find nothing there.
+    /// A copy includes the shared files at their places in the game. Otherwise the references to
+    /// them would break.
     void saveAll(const QString& path, bool asCopy, QStringList* files) override;
 
 signals:
-    /// Files have come into the project.
+    /// Files were added to the project.
     void filesChanged();
 
 private:

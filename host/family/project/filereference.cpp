@@ -24,7 +24,7 @@ const struct
     {"animations", FileID::Animations}, {"commands", FileID::Commands},
 };
 
-/// The columns of a text within its quotes.
+/// Finds the columns of a text inside its quotes.
 void locate(const ValueNode* value, FileReference* reference)
 {
     const NodeLine line(value);
@@ -55,14 +55,14 @@ void collect(const GroupNode* group, QVector<FileReference>* list)
 
 constexpr int MostLinks = 40;
 
-/// The path without "." and "..", and with links followed as far as it exists.
+/// The path without "." and ".."; links are followed as far as the path exists.
 QString resolved(const QString& path)
 {
     QString existing = QDir::cleanPath(path);
     QString rest;
     int links = 0;
     while (!QFileInfo::exists(existing)) {
-        // A file that is written to a link comes to be where that leads.
+        // Writing to a link writes to its target.
         if (QFileInfo(existing).isSymLink() && ++links <= MostLinks) {
             existing = QDir::cleanPath(QFileInfo(existing).symLinkTarget());
             continue;

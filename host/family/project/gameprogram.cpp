@@ -9,7 +9,7 @@ namespace Family {
 
 namespace {
 
-// A file can claim any size without holding anything: reading it would never end.
+// A sparse file can claim any size, and hashing it would take forever.
 constexpr qint64 MaxSize = qint64(2) * 1024 * 1024 * 1024;
 
 QByteArray checksumOf(const QString& path)

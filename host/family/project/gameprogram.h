@@ -5,31 +5,31 @@
 
 namespace Family {
 
-/// The program that a game folder brings along as its engine.
+/// The engine program that a game folder contains.
 ///
-/// Whoever made the folder made the program too. So it is only named (see `FamilyEngineModel`) when
-/// the person has agreed to it as it is: at this path, with this content.
+/// Whoever made the folder also made the program, so it is not trusted. It becomes available (see
+/// `FamilyEngineModel`) only after the user has agreed to exactly this path and content.
 class GameProgram
 {
 public:
     /// None.
     GameProgram() = default;
 
-    /// That of a game folder, as it is now.
+    /// The program in a game folder as it is now.
     explicit GameProgram(const QString& gameFolder);
 
-    /// "zorv-player", in the game folder itself.
+    /// "zorv-player", directly in the game folder.
     static QString name();
 
-    /// True if there is a file of that name, whatever it is.
+    /// True if a file with that name exists, whatever it is.
     static bool isIn(const QString& gameFolder);
 
     bool isThere() const { return !m_path.isEmpty(); }
 
-    /// Absolute, in the real folder of the game; the file itself can be a link.
+    /// Absolute, in the canonical folder of the game; the file itself can be a link.
     QString path() const { return m_path; }
 
-    /// SHA-256 in hexadecimal; empty if the file cannot be read, or has more than 2 GB.
+    /// SHA-256 in hexadecimal; empty if the file cannot be read or is larger than 2 GB.
     QByteArray checksum() const { return m_checksum; }
 
     bool operator==(const GameProgram& other) const

@@ -49,7 +49,7 @@ struct Entry
     bool isFile = false;
 };
 
-/// What lies in a folder; Qt's own listing leaves out names that are no text.
+/// The entries of a folder. Qt's own listing leaves out names that cannot be decoded.
 std::vector<Entry> entriesOf(const fs::path& folder)
 {
     std::vector<Entry> entries;
@@ -63,7 +63,7 @@ std::vector<Entry> entriesOf(const fs::path& folder)
     return entries;
 }
 
-/// The walk through a game.
+/// Searches a game recursively.
 class Walk
 {
 public:

@@ -4,13 +4,13 @@
 
 namespace Family {
 
-/// The projects below a game folder that cannot be opened, for their path is no text in the
-/// encoding of the system: nothing that lists files tells of them. Looks where
-/// `FamilyParentProject::mainFiles()` does. Gives the paths relative to the game of the first
-/// folder or main file on the way with such a name; each byte that is no text stands as "\xff".
+/// Finds the projects below a game folder that cannot be opened because their path is not valid in
+/// the system's encoding; Qt does not list such files at all. Searches where
+/// `FamilyParentProject::mainFiles()` does. Returns, relative to the game, the first folder or main
+/// file with such a name on each path; each invalid byte becomes "\xff".
 QStringList unnamedProjects(const QString& gameFolder);
 
-/// What a person is told of one of them.
+/// The message for the user about one of them.
 QString unnamedProjectText(const QString& path);
 
 }  // namespace Family

@@ -4,19 +4,19 @@
 
 namespace Family {
 
-/// Why a file or folder cannot be looked at though something may be there: its folders, or itself
-/// as a folder, are closed. In words for the person; empty if it can be read, or nothing is there.
+/// Why a file or folder cannot be examined although it may exist: no permission for its folders, or
+/// for the folder itself. A text for the user; empty if it can be read or does not exist.
 QString unreachable(const QString& path);
 
-/// The same, or else `otherwise`, with the path in the place of its "%1".
+/// The same, or else `otherwise` with the path in place of "%1".
 QString orUnreachable(const QString& otherwise, const QString& path);
 
-/// Why a file that is there cannot be read, as a part of a sentence; empty if it can be. A pipe or
-/// a device is not opened, for that may never end.
+/// Why an existing file cannot be read, as part of a sentence; empty if it can. Pipes and devices
+/// are not opened, because that could block forever.
 QString unreadableReason(const QString& fileName);
 
-/// The folders below one, as paths that begin with it, that cannot be looked into and so may hold
-/// projects. Looks where `FamilyParentProject::mainFiles()` does.
+/// The folders below `folder`, as paths that start with it, that cannot be listed and so may hide
+/// projects. Searches where `FamilyParentProject::mainFiles()` does.
 QStringList closedFolders(const QString& folder);
 
 }  // namespace Family

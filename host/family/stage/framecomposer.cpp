@@ -18,12 +18,12 @@ namespace {
 
 const int CacheKiB = 256 * 1024;
 
-// Farther away a picture would have no room for anything else.
+// Positions are clamped here; a picture farther away could not contain anything else.
 const int Farthest = 1 << 28;
 
 const char CrossFile[] = ":/zorvl_icons/icons/sff.png";
 
-/// The pixels that a line of a box, or of a cross, is wide.
+/// The line width of a box or cross in pixels.
 int lineWidth(float zoom)
 {
     return qRound(std::max(zoom, 1.0F));
@@ -41,8 +41,8 @@ QImage enlarged(const QImage& image, int times)
     return result;
 }
 
-/// An index that shows nothing, for the ground around a picture: one that is transparent, else one
-/// that no pixel has, which becomes so. -1 if there is neither.
+/// An index for the background around a picture: a transparent one, or an unused one, which is made
+/// transparent. -1 if there is neither.
 int groundIndex(const QImage& picture, QVector<QRgb>* colors)
 {
     const auto clear =
@@ -66,8 +66,8 @@ int groundIndex(const QImage& picture, QVector<QRgb>* colors)
     return index;
 }
 
-/// The sides of a box, so wide. They do not overlap; those of a box that is smaller reach beyond it
-/// to the right and down.
+/// The four sides of a box as rectangles of this width. They do not overlap. In a box smaller than
+/// the lines they extend beyond it to the right and down.
 std::array<QRect, 4> edgesOf(const QRect& box, int width)
 {
     const int left = box.left() + width;
@@ -80,7 +80,7 @@ std::array<QRect, 4> edgesOf(const QRect& box, int width)
             QRect(QPoint(left, bottom + 1), QPoint(right, box.bottom()))};
 }
 
-/// Calls for each box of a frame, those below first.
+/// Calls the function for each box of a frame, bottom ones first.
 template <class Function>
 void forEachBox(const FrameNode& frame, Function function)
 {
@@ -153,7 +153,7 @@ QRect FrameComposer::areaOf(const QRect& rect) const
     return {first, stagePoint(end, m_style.zoom) - QPoint(1, 1)};
 }
 
-// Left and top, and the length of each side, are rounded for themselves.
+// The left and top edges and the length of each side are rounded separately.
 QRect FrameComposer::boxArea(const QRect& box) const
 {
     const double zoom = double(m_style.zoom);
@@ -161,7 +161,7 @@ QRect FrameComposer::boxArea(const QRect& box) const
         const double bounded = std::clamp(length * zoom, double(-Farthest), double(Farthest));
         return std::isnan(bounded) ? 0 : qRound(bounded);
     };
-    // A box may be told from its right or lower end.
+    // A box may be given by its right or lower end first.
     return QRect(rounded(box.left()), rounded(box.top()),
                  rounded(double(box.right()) + 1 - box.left()),
                  rounded(double(box.bottom()) + 1 - box.top()))

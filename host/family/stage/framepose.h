@@ -8,11 +8,11 @@ namespace Family {
 
 struct FrameData;
 
-/// How a picture stands on the stage, as `Zorv::GraphicsRenderer` draws it.
+/// The pose of a picture on the stage, as `Zorv::GraphicsRenderer` draws it.
 ///
-/// Its axis stands at `axis`, in pixels of the game from the origin of the animation. The picture
-/// reaches from `position` times `scale` (from the axis) by `size` times `scale`, both cut to whole
-/// pixels, is mirrored inside of that, and is turned by `rotation` about the axis.
+/// `axis` is the position of its axis in game pixels from the origin of the animation. The picture
+/// covers `size` times `scale` from `position` times `scale` (relative to the axis), both truncated
+/// to whole pixels. It is mirrored inside that rectangle and rotated by `rotation` about the axis.
 struct FramePose
 {
     QPoint axis;
@@ -26,8 +26,8 @@ struct FramePose
     bool operator!=(const FramePose& other) const { return !(*this == other); }
 };
 
-/// The pose of a frame with a picture of that size, whose hot spot is `hotSpot` from its top left
-/// corner. A mirrored picture is mirrored about the hot spot.
+/// The pose of a frame with a picture of this size; `hotSpot` is relative to its top left corner. A
+/// mirrored picture is mirrored about the hot spot.
 FramePose poseOf(const FrameData& frame, QSize size, QPoint hotSpot);
 
 }  // namespace Family

@@ -8,7 +8,7 @@ namespace Family {
 
 namespace {
 
-/// A channel times an alpha, rounded as blending on 8 bits does it.
+/// channel * alpha / 255, rounded like 8-bit blending.
 uint weighed(uint channel, uint alpha)
 {
     const uint product = channel * alpha;
@@ -20,7 +20,7 @@ uint mixed(uint from, uint alpha, uint to)
     return weighed(from, alpha) + weighed(to, 255 - alpha);
 }
 
-/// One colour over another one, neither of which is opaque or nothing for sure.
+/// Blends one colour over another; both may be partly transparent.
 QRgb over(QRgb color, QRgb ground)
 {
     const uint alpha = uint(qAlpha(color));
@@ -53,7 +53,7 @@ inline void blend(QRgb* to, QRgb color)
     }
 }
 
-/// What comes of each channel of a colour, weighed by its alpha, and of the ground.
+/// Combines each channel of a colour, its alpha and the channel of the background by a function.
 template <class Function>
 void mixChannels(QRgb* to, QRgb color, Function function)
 {

@@ -6,24 +6,25 @@ namespace Family {
 
 class PlacedPicture;
 
-/// How a picture goes together with what lies below it, which is opaque for all but `Over`.
+/// How a picture is blended with what is below it. All modes except `Over` need an opaque
+/// background.
 enum class Mixture { Over, Add, Subtract, Multiply };
 
-/// An image that things are drawn on, as GL does it on the stage: a pixel shows what lies under its
-/// centre, and source alpha weighs the new colour against the old one, into 8 bits.
+/// A software canvas that draws like GL on the stage: a pixel shows what is under its centre, and
+/// source alpha blends the new colour with the old one, in 8 bits.
 class PictureRaster
 {
 public:
-    /// Draws on an image of `Format_ARGB32`, or of `Format_Indexed8`, that belongs to the caller
-    /// and outlives this object. `topLeft` is the pixel of the stage at its corner.
+    /// Draws on an image of `Format_ARGB32` or `Format_Indexed8`. The caller owns the image, which
+    /// must outlive this object. `topLeft` is the stage pixel at its corner.
     PictureRaster(QImage* image, QPoint topLeft);
 
-    /// Nothing for a picture of another size than was placed. An image of indices takes indexed
-    /// pictures alone, and their indices as they are. Where colours are drawn, an index that the
-    /// picture has no colour for is black, and only there is a mixture minded.
+    /// Does nothing if the picture's size differs from that of `place`. An indexed image accepts
+    /// only indexed pictures and copies their indices. On a colour image, an index without a colour
+    /// is drawn black, and only there `mixture` has an effect.
     void draw(const PlacedPicture& place, const QImage& picture, Mixture mixture = Mixture::Over);
 
-    /// For an image of colours: the pixels of a rectangle of the stage.
+    /// Fills a rectangle of the stage; for colour images only.
     void fill(const QRect& rect, QRgb color);
 
 private:

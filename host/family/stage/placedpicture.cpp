@@ -12,9 +12,9 @@ namespace Family {
 namespace {
 
 const int Farthest = 1 << 28;
-const double One = 4294967296.0;  // of places in a picture
+const double One = 4294967296.0;  // fixed point: 1.0 of a position in a picture
 
-// Where in a pixel of the stage it is looked at what lies there.
+// The point inside a stage pixel where the picture is sampled.
 const double SeenX = 0.5 - double(PlacedPicture::HairX) / PlacedPicture::HairParts;
 const double SeenY = 0.5 - double(PlacedPicture::HairY) / PlacedPicture::HairParts;
 
@@ -35,21 +35,21 @@ int truncated(double value)
     return isNear(value) ? int(value) : farthest(value);
 }
 
-/// The texel under a pixel, of so many pixels over so many texels, looked at a hair (in parts)
-/// behind its centre.
+/// The texel under a pixel, for `texels` drawn over `pixels`. Samples `hair` parts of a pixel after
+/// its centre.
 int texelUnder(qint64 pixel, qint64 pixels, qint64 texels, int hair)
 {
     constexpr qint64 parts = PlacedPicture::HairParts;
     return int((parts * pixel + parts / 2 + hair) * texels / (parts * pixels));
 }
 
-/// A place in a picture along a line of the stage: `slope` * x + `start`.
+/// A position in a picture along a line of the stage: `slope` * x + `start`.
 struct Line
 {
     double slope;
     double start;
 
-    /// Cuts a range of x to where the place lies from 0 up to below an end.
+    /// Narrows a range of x to where the position is at least 0 and below `end`.
     void cut(double end, double* first, double* last) const
     {
         if (slope == 0) {
@@ -63,11 +63,11 @@ struct Line
     }
 };
 
-/// The whole numbers n of a range for which `start` + n * `step` lies from 0 up to below an end.
+/// Narrows a range of whole numbers n to where `start` + n * `step` is at least 0 and below `end`.
 void cutSteps(qint64 start, qint64 step, qint64 end, qint64* first, qint64* last)
 {
     if (step < 0) {
-        // Seen from the other end.
+        // Mirror the range, so that the step is positive.
         start = end - 1 - start;
         step = -step;
     }
@@ -120,7 +120,7 @@ PlacedPicture::PlacedPicture(const FramePose& pose, float zoom)
                          QSize(std::abs(m_size.width()), std::abs(m_size.height())));
         return;
     }
-    // Quarter turns are exact, as for the matrix that the stage turns with.
+    // Quarter turns are exact, like in the stage's rotation matrix.
     const float angle = pose.rotation;
     if (angle == 90.0F || angle == -270.0F || angle == -90.0F || angle == 270.0F) {
         m_cos = 0;
@@ -205,7 +205,7 @@ PlacedPicture::Span PlacedPicture::spanAt(int y) const
     span.v = fixed(v.slope * first + v.start, height);
     span.du = std::llround(u.slope * One);
     span.dv = std::llround(v.slope * One);
-    // Rounding may have put an end a hair outside.
+    // Rounding may have moved an end slightly outside.
     qint64 skipped = 0;
     qint64 until = qint64(last) - qint64(first);
     cutSteps(span.u, span.du, qint64(m_texels.width()) << 32, &skipped, &until);

@@ -8,66 +8,65 @@ namespace Family {
 
 struct FramePose;
 
-/// A picture in a pose at a zoom: which of its pixels stands where on the stage.
+/// A posed picture at a zoom: maps between its pixels and those of the stage.
 ///
-/// The stage is counted in its own pixels from the origin, y downward. Everything is rounded as
-/// `Zorv::GraphicsRenderer` does it, and a pixel of the stage shows what lies under its centre. The
-/// picture stands a hair to the right and below, for centres would else lie right between two of
-/// its pixels at many zooms and scales, where any graphics driver shows another one. What is too
-/// far away for whole numbers stands at about 2^28.
+/// Stage coordinates are in stage pixels from the origin, y downward. Rounding equals that of
+/// `Zorv::GraphicsRenderer`, and a stage pixel shows what is under its centre. The picture is
+/// shifted right and down by a fraction of a pixel ("hair"): otherwise, at many zooms and scales,
+/// pixel centres fall exactly between two texels, where graphics drivers round differently.
+/// Positions that do not fit into integers are clamped to about 2^28.
 class PlacedPicture
 {
 public:
-    /// The hair, in parts of a pixel of the stage: the steps by which drivers place corners. It
-    /// differs in x and y, so that an eighth of a turn leaves some of it in both.
+    /// The shift in fractions of a stage pixel; drivers place corners in such steps. It differs in
+    /// x and y, so that after a rotation by 45 degrees both directions keep some of it.
     static constexpr int HairParts = 256;
     static constexpr int HairX = 4;
     static constexpr int HairY = 7;
 
-    /// A part of a line of the stage that the picture covers. Places in the picture have 32 bits
-    /// behind the point.
+    /// A part of a stage line that the picture covers. Positions in the picture have 32 fractional
+    /// bits.
     struct Span
     {
         int first = 0;
         int count = 0;
-        qint64 u = 0;  ///< the place in the picture at `first`
+        qint64 u = 0;  ///< position in the picture at `first`
         qint64 v = 0;
-        qint64 du = 0;  ///< from one pixel of the stage to the next
+        qint64 du = 0;  ///< change from one stage pixel to the next
         qint64 dv = 0;
     };
 
-    /// Stands nowhere if the picture, the scale or the zoom leave nothing of it, or the angle is no
+    /// Covers nothing if the picture, the scale or the zoom makes it empty, or the angle is not a
     /// number.
     PlacedPicture(const FramePose& pose, float zoom);
 
     /// The size of the picture itself.
     QSize pictureSize() const { return m_texels; }
 
-    /// Around the pixels of the stage that it covers; empty without any.
+    /// The bounding rectangle of the covered stage pixels; may be empty.
     QRect bounds() const { return m_bounds; }
 
-    /// The pixel of the picture that the stage shows at one of its own; (-1,-1) beside it.
+    /// The pixel of the picture shown at a stage pixel; (-1,-1) outside.
     QPoint pixelAt(QPoint stage) const;
 
-    /// True for a picture that is not turned: each of its columns and rows stays one.
+    /// True if the picture is not rotated: its columns and rows stay columns and rows.
     bool isUpright() const { return m_isUpright; }
 
-    /// For an upright one: the column or row of the picture that is shown there. Inside of
-    /// `bounds()` alone.
+    /// If upright: the column or row of the picture shown there. Only valid inside `bounds()`.
     int columnAt(int x) const;
     int rowAt(int y) const;
 
-    /// For any other: what a line of the stage shows of it, all of which lies inside of the
-    /// picture.
+    /// If not upright: the part of a stage line that shows the picture. All its positions are
+    /// inside the picture.
     Span spanAt(int y) const;
 
 private:
     QRect coveredByTurned() const;
     static int texelOf(int distance, int pixels, int texels, bool isReversed, int hair);
 
-    QPoint m_base;    // about which it is turned
-    QPoint m_corner;  // from there, before the turn
-    QSize m_size;     // on the stage; negative sides reach to the left and up
+    QPoint m_base;    // centre of rotation
+    QPoint m_corner;  // relative to `m_base`, before the rotation
+    QSize m_size;     // on the stage; negative: extends to the left or up
     QSize m_texels;
     bool m_mirrored = false;
     bool m_upsideDown = false;
@@ -77,10 +76,10 @@ private:
     QRect m_bounds;
 };
 
-/// A length in pixels of the game as one of the stage, rounded as the stage does it.
+/// Converts a length from game pixels to stage pixels, rounded like the stage.
 int stageLength(int length, float zoom);
 
-/// The same of places, each by itself.
+/// The same for a position, each coordinate separately.
 QPoint stagePoint(QPoint point, float zoom);
 
 }  // namespace Family
