@@ -8,6 +8,16 @@
 
 #include <algorithm>
 
+// A head is a line whose next line has a higher level. Its fold covers the lines below it down to
+// the first one with the head's level or a lower one.
+//
+// A hidden block is invisible and has a line count of 0. So Qt's screen line numbers count only
+// visible lines, and the nearest visible line above or below a fold is found by its number in
+// logarithmic time, however long the fold is.
+//
+// "Folded" is also stored in the data of the head's line. While heads are shown again, this tells
+// which inner folds must stay closed. Edits can make the two disagree; mend() repairs that.
+
 namespace Zorv {
 
 namespace {
@@ -24,14 +34,14 @@ void hide(QTextBlock block)
     block.setLineCount(0);
 }
 
-/// The first line behind what a head can fold; invalid for the end of the text.
+/// The first line after the fold of a head; invalid at the end of the text.
 QTextBlock behind(const QTextBlock& head)
 {
     const auto* document = qobject_cast<const CodeDocument*>(head.document());
     return document ? document->lowerBlockBelow(head, CodeFolding::indent(head) + 1) : head.next();
 }
 
-/// The last line is never hidden, or there would be no place behind the fold.
+/// Never hides the last line of the document: the cursor needs a place after the fold.
 void hideBelow(const QTextBlock& head)
 {
     const QTextBlock end = behind(head);
@@ -40,7 +50,7 @@ void hideBelow(const QTextBlock& head)
     }
 }
 
-/// A folded line on the way leads on to the end of the text, whatever the levels there.
+/// If a folded line is inside, shows everything to the end of the text, whatever the levels there.
 void showBelow(const QTextBlock& head)
 {
     QTextBlock end = behind(head);
@@ -65,8 +75,8 @@ bool isBefore(const QTextBlock& block, const QTextBlock& end)
     return block.isValid() && (!end.isValid() || block.position() < end.position());
 }
 
-/// Shows the lines from `first` to in front of `end`. What folded heads among them hide stays
-/// hidden, unless it is `wanted`.
+/// Shows the lines from `first` to before `end`. Lines hidden by folded heads among them stay
+/// hidden, except to reach `wanted`.
 void showFrom(const QTextBlock& first, const QTextBlock& end, const QTextBlock& wanted = {})
 {
     for (QTextBlock b = first; isBefore(b, end);) {
@@ -134,7 +144,7 @@ void CodeFolding::foldAll(const QTextDocument* document)
             toggle(b.previous());
         }
         if (!b.isVisible()) {
-            // On to the last line of the fold.
+            // Jump to the last line of the fold.
             b = visibleFrom(b).previous();
         }
         levelAbove = indent(b);

@@ -16,6 +16,12 @@
 #include <algorithm>
 #include <utility>
 
+// How folds survive edits: an edit can remove the head of hidden lines or change their levels, and
+// nobody could unfold them any more. While Qt is still in the middle of an edit the layout must not
+// be touched. So edited() and levelsChanged() only record the affected lines. mend() runs when Qt
+// has finished, or from a timer for level changes outside of an edit, and checks the folds of the
+// recorded lines.
+
 namespace Zorv {
 
 namespace {

@@ -10,6 +10,12 @@
 
 #include <cmath>
 
+// A sound passes through three stages. It is pending for `LoadDelay`, so that stepping
+// quickly through a list loads nothing. Then its samples are read, in a worker thread
+// if there is a reader. At last load() shows it, and the pyramid of extremes is built,
+// for large sounds in a worker thread too: until it is ready, waveform and levels are
+// missing.
+
 namespace Zorv {
 
 namespace {

@@ -355,7 +355,7 @@ void SoundEditorPrivate::openSnd()
     if (!isGivenUp && to && to == sounds && sounds->sound(current()) == wanted) {
         replaceBy(ready, file, reason);
     } else {
-        listChanged();  // was not heard meanwhile
+        listChanged();  // list signals were ignored meanwhile
     }
 }
 
@@ -437,7 +437,7 @@ void SoundEditorPrivate::saveSndAs()
         return;
     }
     isBusy = false;
-    listChanged();  // was not heard meanwhile
+    listChanged();  // list signals were ignored meanwhile
     if (!unopened.isEmpty()) {
         emit editor->saveFailed(unopened.join(QLatin1Char('\n')));
     }

@@ -5,6 +5,11 @@
 
 #include <QtConcurrent>
 
+// setSound() looks for the playable form closest to the sound's, and opens a device for it. If the
+// device takes the samples as they are, the stream gets them at once. Otherwise play() first
+// converts a copy in a worker thread and starts when it is done. A notice appears only if that
+// takes longer than `NoticeDelay`. Another sound or stop() cancels the conversion.
+
 namespace Zorv {
 
 namespace {
