@@ -1,6 +1,6 @@
-// The axis of the canvas is a cross, dragged at the square in its middle. The square is small, and
-// less than a pixel of the picture at the zooms at which single pixels are painted: those around
-// the axis can still be hit beside it.
+// The canvas axis is drawn as a cross and dragged at the square in its middle. The square is small:
+// at the zooms used to paint single pixels it covers less than one, so the pixels around the axis
+// can still be clicked.
 
 #include "image/canvas/imagelayers.h"
 #include "image/imagerenderer_p.h"
@@ -16,13 +16,13 @@ namespace Zorv {
 
 namespace {
 
-const int Arm = 8;   // of the cross
-const int Half = 3;  // of the square, in both beside its middle
+const int Arm = 8;   // length of each arm of the cross
+const int Half = 3;  // of the square: pixels on each side of its middle
 
-/// Which moves are one step.
+/// Merge numbers: a drag is one undo step, and so are consecutive arrow keys.
 enum MergeId { DragSteps = 1, ArrowSteps };
 
-/// As far from the picture's corner as a picture can reach: still a number that files can keep.
+/// Limits the axis to what a picture can reach, so that files can store the number.
 QPoint withinReach(const QPoint& axis)
 {
     const int reach = ImageCanvas::MaxSide;
@@ -64,7 +64,7 @@ bool ImageRendererPrivate::moveAxisBy(int key, Qt::KeyboardModifiers modifiers)
         return false;
     }
     if (!pressed) {
-        // Not all numbers that a file has can be counted on from.
+        // Limited before the step is added, because a file may contain any number.
         canvas.moveAxis(withinReach(withinReach(canvas.axis()) + step), ArrowSteps);
     }
     return true;

@@ -15,7 +15,7 @@ namespace {
 const double SmallestGridZoom = 4;
 const QColor GridColor(128, 128, 128, 120);
 
-/// With whole scales edges fall on edges.
+/// With whole scale factors pixel edges coincide, so no offset is needed.
 QPointF drawingCorner(const QPainter& painter, const QPoint& corner, double scale)
 {
     const double ratio = painter.device()->devicePixelRatioF();
@@ -58,7 +58,7 @@ void ImageRendererPrivate::draw(QPainter& painter, ImageView view)
     const QRect picture = now.rect(view).translated(inView.topLeft());
     const QRect shownPart = picture & inView;
     painter.save();
-    // Below the picture, which at some scales reaches into its pixels of the screen.
+    // Drawn before the picture, which covers some of its screen pixels at some scales.
     painter.setClipRect(inView);
     drawOutline(painter, picture, Qt::black);
     if (!shownPart.isEmpty()) {
@@ -90,7 +90,7 @@ void ImageRendererPrivate::drawGrid(QPainter& painter, const QRect& shownPart) c
     const QPointF from = now.toCanvas(shownPart.topLeft(), ImageView::Zoomed);
     const QPointF to = now.toCanvas(shownPart.bottomRight(), ImageView::Zoomed);
     const QPoint corner = now.corner(ImageView::Zoomed);
-    // One path is one draw.
+    // One path for all lines, because each path is one draw call.
     QPainterPath lines;
     for (int x = std::max(int(std::ceil(from.x())), 1); x <= to.x(); ++x) {
         const double left = corner.x() + qRound(x * now.zoom) + 0.5;
@@ -118,7 +118,7 @@ void ImageRendererPrivate::drawCell(QPainter& painter, ImageView view) const
     drawOutline(painter, rect.adjusted(-1, -1, 1, 1), Qt::black);
 }
 
-/// The middle of the square that a centred brush would paint, the pointer without one.
+/// The middle of the square that a centred brush would paint; otherwise the pointer.
 QPoint ImageRendererPrivate::cursorPlace(ImageView view) const
 {
     const bool isCentered = q->option(ImageRenderer::CenteredBrush);

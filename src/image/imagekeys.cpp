@@ -4,6 +4,10 @@
 #include <algorithm>
 #include <cmath>
 
+// The keyboard cell lets a person use tools without a mouse. It is a pixel of the canvas, moved by
+// arrow keys; the tool gets the same press, move and release as from a mouse in the middle of that
+// pixel. A mouse press or move hides the cell again.
+
 namespace Zorv {
 
 namespace {
@@ -14,7 +18,7 @@ QPoint within(const QPoint& pixel, const QSize& size)
             std::clamp(pixel.y(), 0, size.height() - 1)};
 }
 
-/// By how much a span has to be moved to lie within 0 to `room`; its begin, if it is too long.
+/// How far a span must move to lie within 0 to `room`. If it is too long, its start moves to 0.
 int wayInto(int begin, int end, int room)
 {
     return begin < 0 || end - begin > room ? -begin : std::min(room - end, 0);
@@ -58,7 +62,7 @@ QPoint ImageRendererPrivate::cellPlace(const QPoint& pixel) const
     return savePosition(place().toWidget(QPointF(pixel) + QPointF(0.5, 0.5), cellView()));
 }
 
-/// It begins where the pointer was.
+/// The cell starts where the pointer was.
 void ImageRendererPrivate::showCell()
 {
     if (isCellShown) {
@@ -85,7 +89,7 @@ void ImageRendererPrivate::moveCell(int key, Qt::KeyboardModifiers modifiers)
         return;
     }
     showCell();
-    // The Shift that drags is no Shift for the tool.
+    // Shift means "drag" here, so the tool must not see it.
     const bool drags = modifiers.testFlag(Qt::ShiftModifier) && current;
     if (drags && !isCellDragged) {
         pressView = cellView();

@@ -35,7 +35,7 @@ QRect ImagePlace::rect(ImageView view) const
     return transform.mapRect(QRect(QPoint(), size));
 }
 
-/// All of a picture that fits, else the point that is in the middle of the zoomed view.
+/// Centres a picture that fits. Otherwise shows the point that is in the middle of the zoomed view.
 QPoint ImagePlace::followingCorner() const
 {
     const QPointF shown =

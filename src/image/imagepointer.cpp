@@ -1,5 +1,5 @@
-// A press belongs to the tool and the view in which it began, whatever keys and pointer do until it
-// ends. So a tool sees each press once, and its end once.
+// A press belongs to the tool and the view in which it began until it ends, whatever keys and
+// pointer do meanwhile. So a tool sees each press exactly once, and its end exactly once.
 
 #include "graphics/renderwidget.h"
 #include "image/canvas/imageundostack.h"
@@ -177,7 +177,7 @@ void ImageRenderer::mousePressed(QPoint pos, Qt::MouseButton button,
         widget()->setFocus(Qt::MouseFocusReason);
     }
     d->setPointer(pos);
-    // A button that is down already was released where nobody heard of it.
+    // If the button is already down, its release went to another window and was missed.
     if (d->isCellDragged || d->pressed.testFlag(button)) {
         d->losePress();
     }
@@ -215,7 +215,7 @@ void ImageRenderer::mouseReleased(QPoint pos, Qt::MouseButton button,
 
 void ImageRenderer::mouseMoved(QPoint pos, Qt::KeyboardModifiers modifiers)
 {
-    // Window systems send moves without a move.
+    // Window systems also send move events when the pointer has not moved.
     if (d->isCellDragged || (d->isCellShown && pos == d->mousePos)) {
         return;
     }
@@ -303,7 +303,7 @@ void ImageRendererPrivate::tell(const QPoint& pixel)
     emit q->pos(pixel, index, color);
 }
 
-// The picture may have moved below the pointer.
+// Reports the pixel again, because the picture may have moved under the pointer.
 void ImageRendererPrivate::tellAgain()
 {
     if (isCellShown) {

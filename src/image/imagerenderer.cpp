@@ -37,7 +37,7 @@ ImageRendererPrivate::ImageRendererPrivate(ImageRenderer* renderer, ImagePalette
     addTools();
 }
 
-// The tools first, for they work on the canvas.
+// Deletes the tools first, because they use the canvas.
 ImageRendererPrivate::~ImageRendererPrivate()
 {
     for (QObject* const tool : tools) {
@@ -87,7 +87,7 @@ void ImageRendererPrivate::follow()
     });
 }
 
-// In the middle of several changes the old picture stays whole, with its old size.
+// During nested changes the old picture stays on the screen, with its old size.
 void ImageRendererPrivate::setSize()
 {
     if (changeDepth == 0) {
@@ -114,7 +114,8 @@ ImagePlace ImageRendererPrivate::place() const
 void ImageRendererPrivate::zoomTo(double zoom, const QPointF& fixed)
 {
     const ImagePlace before = place();
-    // The canvas brings a tiny picture, which may be shown larger, back to it.
+    // A tiny picture may be shown larger than the largest zoom; `setZoomLevel()` would shrink it to
+    // that.
     if (zoom > before.zoom && before.zoom >= LargestZoom) {
         return;
     }

@@ -18,6 +18,10 @@
 #include <algorithm>
 #include <cstring>
 
+// The canvas is flattened once into an indexed picture. Every preview draws the same pixels with
+// its own colour table, so another palette costs no flattening. A change of the canvas marks a
+// rectangle as dirty; it is flattened when the widget is painted, so never while it is hidden.
+
 namespace Zorv {
 
 namespace {
@@ -55,7 +59,7 @@ public:
     PalettePreviews* owner;
     QPointer<const ImageCanvas> canvas;
     QVector<PalettePreviews::Preview> previews;
-    QImage picture;  // indexed, of the size of the canvas, but for what is dirty
+    QImage picture;  // indexed, in the size of the canvas; outdated within `dirty`
     QRect dirty;
     PreviewGrid grid;
     double ratio = 1;
@@ -75,7 +79,7 @@ void PalettePreviewsPrivate::partChanged(const QRect& part)
     }
 }
 
-/// Repaints pixels of the screen.
+/// Repaints a rectangle given in screen pixels.
 void PalettePreviewsPrivate::update(const QRect& pixels) const
 {
     const QPoint from(qFloor(pixels.left() / ratio), qFloor(pixels.top() / ratio));
@@ -100,7 +104,7 @@ void PalettePreviewsPrivate::flattenDirty()
     }
 }
 
-/// Everything may have another size: the canvas, the widget, the pixels of the screen.
+/// Recomputes the layout, because the size of canvas, widget or screen pixels may have changed.
 void PalettePreviewsPrivate::fit()
 {
     const QSize size = isShown(canvas) ? canvas->size() : QSize();

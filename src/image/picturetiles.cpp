@@ -1,6 +1,6 @@
-// The screen needs few pixels of a large canvas, and a stroke changes few of those. So a tile is a
-// picture of its own, which GL keeps as a texture until it is painted on, and layers are merged in
-// the changed rectangle alone.
+// The screen shows few pixels of a large canvas, and a stroke changes few of those. So each tile is
+// a picture of its own, which GL keeps as a texture until it is painted on. Layers are merged only
+// in the changed rectangle.
 
 #include "image/picturetiles_p.h"
 
@@ -17,10 +17,10 @@ namespace Zorv {
 
 namespace {
 
-/// 64 MiB.
+/// 64 MiB of tiles.
 const int KeptTiles = 256;
 
-/// Squares of 8 by 8, the first of them grey.
+/// Squares of 8 by 8 pixels, the top left one grey.
 const QImage& checkerboard()
 {
     static const QImage image = [] {

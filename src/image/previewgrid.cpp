@@ -41,7 +41,7 @@ PreviewGrid::PreviewGrid(const QSize& window, const QSize& picture, int count, c
     m_width = std::max(m_size.width(), std::min(label.width(), room));
 }
 
-/// What is left to a picture when there are so many columns.
+/// The scale of a picture with this number of columns.
 double PreviewGrid::scaleFor(const QSize& window, const QSize& picture, int columns) const
 {
     const int rows = ceilDiv(m_count, columns);

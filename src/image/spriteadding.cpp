@@ -15,7 +15,7 @@ namespace Zorv {
 
 namespace {
 
-/// Makes the texts of this file known to translators.
+/// The context of the texts of this file for translators.
 class Text
 {
     Q_DECLARE_TR_FUNCTIONS(Zorv::SpriteAdding)
@@ -26,7 +26,7 @@ QString identifierKey()
     return QStringLiteral("Identifier");
 }
 
-/// False for an image that does not tell one.
+/// False for an image without a stored axis.
 bool readAxis(const QImage& image, QPoint* axis)
 {
     const QStringList parts = image.text(QLatin1String(AxisText)).split(QLatin1Char(','));
@@ -116,7 +116,8 @@ void SpriteAdding::add(int index, const ImageRead& read)
     ++m_count;
 }
 
-/// A palette that has come with the image is called as the file tells, if that is free.
+/// Sets axis and palette name. A palette that was added with the image gets the identifier stored
+/// in the file, if that is free.
 void SpriteAdding::setTexts(Sprite* sprite, const ImageRead& read, int paletteCount)
 {
     QPoint axis;

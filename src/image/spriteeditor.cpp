@@ -64,7 +64,7 @@ SpriteEditorPrivate::SpriteEditorPrivate(SpriteEditor* owner, PaletteEditor* pan
     followCanvas();
 }
 
-/// The host's window owns what was published, and may be there longer.
+/// Published widgets are not deleted here: the host's window owns them and may live longer.
 SpriteEditorPrivate::~SpriteEditorPrivate()
 {
     workspace->setRenderer(nullptr);
@@ -86,7 +86,7 @@ ImageUndoStack* SpriteEditorPrivate::history() const
     return canvas()->undoStack();
 }
 
-/// A dialog has its own event loop, which is nothing for the middle of an operation.
+/// Never call this in the middle of an operation: a dialog runs its own event loop.
 void SpriteEditorPrivate::tellRefusal(const QString& message)
 {
     Dialogs::instance()->warning(SpriteEditor::tr("Not possible"), message);
@@ -306,7 +306,7 @@ void SpriteEditor::selectAll()
     d->selAll();
 }
 
-/// From the sprite behind the one that is shown, or in front of it, once around.
+/// Searches from the sprite after the shown one, or backwards from the one before it, once around.
 void SpriteEditor::find(const QString& text, unsigned flags)
 {
     const int count = d->sprites ? int(d->sprites->count()) : 0;

@@ -18,7 +18,7 @@ constexpr unsigned DuplicateText = 128;
 constexpr unsigned SplitText = 139;
 constexpr unsigned OrganizerPanel = 0;
 
-/// Actions that stay as they were left, and the settings that keep them.
+/// Actions whose state is remembered, and the settings that store it.
 const struct
 {
     const char* action;
@@ -61,7 +61,8 @@ void SpriteEditorPrivate::frameSpr(bool isOn)
     followed = {};
 }
 
-/// The same frame is told many times, and the person may have gone on to another sprite.
+/// Called many times for the same frame. Only the first call switches the sprite: the user may have
+/// chosen another one since.
 void SpriteEditorPrivate::followFrame(const Sprite* wanted)
 {
     const SpriteNumber number = spriteNumber(wanted);
@@ -78,8 +79,8 @@ void SpriteEditorPrivate::followFrame(const Sprite* wanted)
     }
 }
 
-/// Tells later on, behind a dialog, if the sprite in work is still the one that it is now. Its file
-/// can be read anew or closed there.
+/// Returns a function that tells, after a dialog, whether the edited sprite is still the same.
+/// During a dialog its file can be reloaded or closed.
 std::function<bool()> SpriteEditorPrivate::stillThere() const
 {
     const QPointer<const SpriteEditorPrivate> self(this);
@@ -90,7 +91,7 @@ std::function<bool()> SpriteEditorPrivate::stillThere() const
     };
 }
 
-/// What goes with the sprite is told in one question.
+/// One question for both: deleting the sprite and losing its unsaved changes.
 bool SpriteEditorPrivate::mayDelete() const
 {
     const bool isModified = editor->isCanvasModified();
@@ -124,7 +125,8 @@ void SpriteEditorPrivate::del()
     show(qMin(index, int(sprites->count()) - 1));
 }
 
-/// What is done to the stored sprite is done to what the canvas shows, as one step of undo.
+/// Saves the canvas and then changes the stored sprite, as one undo step: so the change applies to
+/// what the canvas shows.
 void SpriteEditorPrivate::changeStored(const QString& title, int nextRow,
                                        const std::function<void()>& change)
 {
@@ -165,7 +167,7 @@ OrganizerEditor* SpriteEditorPrivate::organizer() const
     return qobject_cast<OrganizerEditor*>(host->extraEditor(OrganizerPanel));
 }
 
-/// Unless the person has selected several there.
+/// Does nothing if the row is current already: the user may have selected several rows there.
 void SpriteEditorPrivate::selectInList()
 {
     OrganizerEditor* list = editor->isActive() ? organizer() : nullptr;
@@ -174,8 +176,8 @@ void SpriteEditorPrivate::selectInList()
     }
 }
 
-/// The organizer shows the sprites while they are in front. Whose list it had shown before takes it
-/// back.
+/// The organizer shows the sprites while this editor is in front. Afterwards it is emptied, and the
+/// editor whose list it showed before sets that again.
 void SpriteEditorPrivate::lendList(bool isLent)
 {
     OrganizerEditor* list = organizer();

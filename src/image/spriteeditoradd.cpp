@@ -29,8 +29,8 @@ constexpr unsigned SaveText = 126;
 constexpr unsigned LeftOutTitle = 2;
 constexpr int ColorCount = 256;
 
-/// Entries that an image lacks are opaque black. Alpha of entry 0, which formats treat differently,
-/// is ignored.
+/// Missing entries of the image count as opaque black. The alpha of entry 0 is ignored, because
+/// file formats treat it differently.
 bool hasColorsOf(const QImage& image, const Palette* palette, QVector<QRgb>* table)
 {
     RGBA entries[ColorCount];
@@ -104,7 +104,7 @@ void SpriteEditorPrivate::addCropped(const QPointer<Sprites>& into, const QStrin
     }
 }
 
-/// The last one comes onto the canvas, if there are more than there were.
+/// Shows the last sprite, if any were added.
 void SpriteEditorPrivate::showAdded(const QPointer<Sprites>& into, unsigned before)
 {
     if (into && (into == sprites || into == waiting) && into->count() > before) {
@@ -140,8 +140,8 @@ void SpriteEditorPrivate::openImg()
     }
 }
 
-/// An image of other colours than the sprite's palette asks what is to become of them; one of true
-/// colour has none to be kept.
+/// Asks what to do with colours that differ from the sprite's palette. A true-colour image has no
+/// palette, so there is no question.
 void SpriteEditorPrivate::setSpriteImage(QImage image, const QPoint& corner)
 {
     Sprite* now = sprite();
@@ -163,7 +163,7 @@ void SpriteEditorPrivate::setSpriteImage(QImage image, const QPoint& corner)
     }
     const std::function<bool()> isThere = stillThere();
     PalDlg dialog(host->mainWindow(), sprites->palettes(), palette ? int(palette->index()) : -1);
-    // Rows of a list that was read anew are others.
+    // After a reset of the list the chosen row would mean another palette.
     connect(sprites->palettes(), &QAbstractItemModel::modelReset, &dialog, &QDialog::reject);
     if (dialog.exec() != QDialog::Accepted || !isThere()) {
         return;
@@ -178,14 +178,14 @@ void SpriteEditorPrivate::setSpriteImage(QImage image, const QPoint& corner)
     }
 }
 
-/// What is on the canvas is asked about last, when all that can be given up is chosen.
+/// Asks about unsaved work last, when nothing else can be cancelled any more.
 bool SpriteEditorPrivate::mayReplace()
 {
     const std::function<bool()> isThere = stillThere();
     return mayLeave() && isThere();
 }
 
-/// The axis stays where it is in the picture when that was cropped. One step of undo.
+/// Keeps the axis at its place in the picture if that was cropped. One undo step.
 bool SpriteEditorPrivate::storeImage(const QImage& image, const QPoint& corner,
                                      const std::function<void()>& store)
 {
@@ -208,7 +208,7 @@ bool SpriteEditorPrivate::storeImage(const QImage& image, const QPoint& corner,
     return isStored;
 }
 
-/// What is on the canvas is saved with the others.
+/// If the sprite on the canvas is among the chosen ones, the canvas is saved first.
 void SpriteEditorPrivate::saveImgAs()
 {
     if (!sprite()) {
@@ -262,8 +262,8 @@ void SpriteEditor::takeDropsOn(QWidget* widget)
     widget->installEventFilter(d.get());
 }
 
-/// Whoever drags waits until the drop is over, so the questions come behind it. The canvas takes
-/// what is for its file; lists show that of the project in front.
+/// The program that drags waits until the drop is over, so questions are asked only afterwards.
+/// Files dropped on the canvas go to its file; files dropped on lists go to the project in front.
 bool SpriteEditorPrivate::eventFilter(QObject* watched, QEvent* event)
 {
     const bool isDrop = event->type() == QEvent::Drop;

@@ -8,9 +8,11 @@
 
 #include <algorithm>
 
-// The canvas is seen in the colours of the grid. Those are of the current palette of the panel, be
-// it that of the sprite or another one to look at the sprite in; of the picture itself where it has
-// no palette; or some that a host previews. Only the first and the third decide pixels.
+// The canvas is shown in the colours of the palette panel's grid. These are one of:
+// - the current palette of the panel, either the sprite's or another one just to look at,
+// - the colours of the picture itself, if the sprite has no palette,
+// - colours that a host previews. Only the sprite's own palette and the picture's own colours may
+//   decide pixels. Whatever computes pixels ends a preview first.
 
 namespace Zorv {
 
@@ -18,7 +20,7 @@ namespace {
 
 constexpr int ColorCount = 256;
 
-/// The side of a picture of which colours are looked for. A larger one is made smaller before.
+/// Larger pictures are scaled down to this side before their colours are searched.
 constexpr int SampleSide = 1024;
 
 void fillColors(const QVector<QRgb>& table, RGBA* entries)
@@ -30,7 +32,7 @@ void fillColors(const QVector<QRgb>& table, RGBA* entries)
     }
 }
 
-/// Those of a picture of true colour, to paint with.
+/// Colours to paint with, taken from a true-colour picture.
 QVector<QRgb> ownColors(const QImage& image)
 {
     const bool isLarge = image.width() > SampleSide || image.height() > SampleSide;
@@ -41,7 +43,7 @@ QVector<QRgb> ownColors(const QImage& image)
 
 }  // namespace
 
-/// For a sprite that comes onto the canvas.
+/// Sets the colours for a sprite that was put on the canvas.
 void SpriteEditorPrivate::loadColors()
 {
     const Sprite* now = sprite();
@@ -57,7 +59,7 @@ void SpriteEditorPrivate::loadColors()
     }
 }
 
-/// Those of the sprite's own palette; of the picture where it has none.
+/// The colours of the sprite's palette, or of its picture if it has none.
 void SpriteEditorPrivate::fillOwn(RGBA (&entries)[ColorCount]) const
 {
     const Sprite* now = sprite();
@@ -78,7 +80,7 @@ void SpriteEditorPrivate::showOwnColors()
         return;
     }
     if (Palette* palette = now->palette()) {
-        // While a file is read anew its sprites are there before its palettes.
+        // While a file is reloaded, its sprites exist before its palettes do.
         const Palettes* all = palettes->palettes();
         const bool isListed = all && all->palette(int(palette->index())) == palette;
         const bool isShown = palettes->currentPalette() == palette && !palettes->isPreviewing();
@@ -103,7 +105,7 @@ bool SpriteEditorPrivate::isPreview() const
                    palettes->currentPalette() != now->palette());
 }
 
-/// Colours that are only looked at decide no pixel.
+/// Call before computing pixels: colours that are only looked at must not decide them.
 void SpriteEditorPrivate::endPreview()
 {
     if (isPreview()) {
@@ -111,7 +113,7 @@ void SpriteEditorPrivate::endPreview()
     }
 }
 
-/// There is always something to see a sprite in.
+/// Without a current palette the sprite's own colours are shown, so there are always some.
 void SpriteEditorPrivate::currentPaletteChanged()
 {
     if (isShowingOwn || isAway()) {
@@ -131,7 +133,7 @@ void SpriteEditorPrivate::colorsShown()
     emit editor->colorsShown();
 }
 
-/// Behind the panel, which goes by rows, and rests while it is hidden.
+/// Runs after the panel, which identifies palettes by row and does not update while it is hidden.
 void SpriteEditorPrivate::palettesChanged(bool isStructure)
 {
     if (isAway()) {
@@ -144,7 +146,7 @@ void SpriteEditorPrivate::palettesChanged(bool isStructure)
     }
 }
 
-/// With the switch on, the palette of the sprite becomes the current one.
+/// Makes the sprite's palette the current one if the switch is on.
 void SpriteEditorPrivate::followPalette()
 {
     const Sprite* now = sprite();
@@ -153,7 +155,7 @@ void SpriteEditorPrivate::followPalette()
     }
 }
 
-/// What erases, and something that can be seen.
+/// A transparent background, which erases, and a visible foreground.
 void SpriteEditorPrivate::chooseFirstColors()
 {
     int ground = 0;

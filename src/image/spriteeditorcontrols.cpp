@@ -86,7 +86,7 @@ const struct
 };
 // clang-format on
 
-/// The entries of the list of modes, which a mode's row is counted from.
+/// The text numbers of the first and the last blend mode in the list.
 constexpr unsigned FirstMode = 104;
 constexpr unsigned LastMode = 116;
 
@@ -124,7 +124,8 @@ void SpriteEditorPrivate::publishTools()
     toolChanged(pen);
 }
 
-/// One button merges, and its menu has both ways; the list has all of them.
+/// The button merges visible layers; its menu has both ways to merge. The list's menu has all
+/// layer actions.
 void SpriteEditorPrivate::publishLayers()
 {
     layerMenu = std::make_unique<QMenu>();

@@ -2,19 +2,19 @@
 #include "cache/sprites.h"
 #include "image/spriteeditor_p.h"
 
-// While the canvas keeps work, another project can be in front: the stage shows that one then. What
-// is offered beside the stage, the panel of palettes and "spr_add", belongs to what the person sees
-// there, and to the canvas again as soon as that is seen.
+// While the canvas has unsaved work, another project can be in front, and the stage shows that one.
+// The palette panel and "spr_add", which are offered beside the stage, then belong to the project
+// the user sees there. When the canvas comes to the front again, they belong to the canvas.
 
 namespace Zorv {
 
-/// What the person sees the sprites of.
+/// The sprites of what the user sees: the canvas or the stage.
 Sprites* SpriteEditorPrivate::inFront() const
 {
     return isWaiting && !editor->isActive() ? waiting.data() : sprites.data();
 }
 
-/// True while the panel has palettes that are not those of the canvas.
+/// True while the panel shows other palettes than the canvas's.
 bool SpriteEditorPrivate::isAway() const
 {
     return palettes && palettes->palettes() != (sprites ? sprites->palettes() : nullptr);

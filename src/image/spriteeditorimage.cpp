@@ -9,7 +9,7 @@ namespace Zorv {
 
 namespace {
 
-/// The field of the status bar that has places of what is drawn.
+/// The status bar field for positions in the picture.
 constexpr int PlaceField = 3;
 
 QString colorText(QRgb color)
@@ -57,7 +57,7 @@ void SpriteEditorPrivate::selAll()
     selectIn(all.mask());
 }
 
-/// No selection is one of everything: all can be painted on again.
+/// Selects everything, because with nothing selected nothing could be painted.
 void SpriteEditorPrivate::selNone()
 {
     selAll();

@@ -47,7 +47,7 @@ void SpriteEditorPrivate::projImport()
     }
     const QString title =
         SpriteEditor::tr("Import sprites from project '%1'").arg(choice.source->title());
-    // Layers of a sprite that is replaced would come into the new one with the next save.
+    // Ask first: work on a sprite that is replaced would go into the new one with the next save.
     const bool isReplaced =
         to == sprites && SpriteImport(to, choice.entries, choice.conflicts).replaces(row);
     if (isReplaced && (!mayLeave() || !to || to != sprites)) {

@@ -7,14 +7,13 @@
 
 #include <algorithm>
 
-// The canvases of the sprites that were shown last, with their layers and their histories. A sprite
-// that comes back has its canvas again, if it is what the canvas knows of it. Together with the
-// history in front they keep to the budget of that; the one that was not seen for longest goes
-// first.
+// A least-recently-used cache of canvases with layers and history, for the sprites shown last. When
+// a sprite is shown again it gets its canvas back, if the sprite has not changed since. The cache
+// and the history of the present canvas share the history's memory limit.
 
 namespace Zorv {
 
-/// Nothing for a canvas that reading its sprite gives as well, or with work that is not saved.
+/// Does not keep a canvas that can simply be read from its sprite, or one with unsaved work.
 void SpriteEditorPrivate::keepCanvas()
 {
     const bool isWorthIt = history()->count() > 0 || layers()->count() > 1;
@@ -39,7 +38,7 @@ void SpriteEditorPrivate::keepCanvas()
     keepToBudget();
 }
 
-/// Shows the canvas that is kept for the sprite as it is now; false if there is none.
+/// Shows the kept canvas that matches the sprite as it is now; false if there is none.
 bool SpriteEditorPrivate::bringBack()
 {
     const Sprite* now = sprite();
@@ -86,7 +85,7 @@ void SpriteEditorPrivate::keepToBudget()
     }
 }
 
-/// Those of a file that closes.
+/// Drops the canvases of a file that closes.
 void SpriteEditorPrivate::dropKept(const Sprites* of)
 {
     const auto isGone = [of](const KeptCanvas& each) {
@@ -95,7 +94,7 @@ void SpriteEditorPrivate::dropKept(const Sprites* of)
     kept.erase(std::remove_if(kept.begin(), kept.end(), isGone), kept.end());
 }
 
-/// The file was read anew: its sprites have other addresses.
+/// Forgets addresses of sprites, because their file was reloaded.
 void SpriteEditorPrivate::forgetRecords()
 {
     for (KeptCanvas& each : kept) {

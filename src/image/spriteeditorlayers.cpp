@@ -10,7 +10,7 @@ namespace Zorv {
 
 namespace {
 
-/// Between the row of a mode in the list of modes and the mode; the first row is mode 0.
+/// The difference between a blend mode and its row in the list. Only mode 0 differs: it is row 0.
 constexpr int ModeShift = 11;
 constexpr double WholeOpacity = 100;
 
@@ -26,7 +26,7 @@ void SpriteEditorPrivate::connectLayers()
     connect(canvas(), &ImageCanvas::activeLayerChanged, this,
             &SpriteEditorPrivate::followActiveLayer);
     connect(canvas(), &ImageCanvas::formatChanged, this, &SpriteEditorPrivate::updateEnabled);
-    // In true colour what is painted has the colours that are shown.
+    // In true colour, painting uses the colours that are shown, so these must be the sprite's own.
     connect(canvas(), &ImageCanvas::formatChanged, this, [this] {
         if (canvas()->format() == ImageCanvas::RGBAFormat) {
             endPreview();
@@ -35,7 +35,7 @@ void SpriteEditorPrivate::connectLayers()
     connect(layers(), &ImageLayers::changed, this, &SpriteEditorPrivate::showLayer);
 }
 
-/// The row of the layer that is worked on.
+/// Selects the row of the active layer.
 void SpriteEditorPrivate::followActiveLayer()
 {
     auto* list = widget<QAbstractItemView>("spr_layers_list");
@@ -63,7 +63,7 @@ void SpriteEditorPrivate::layerChosen(const QModelIndex& index)
     }
 }
 
-/// A name that no layer has.
+/// A layer name that is not used yet.
 QString SpriteEditorPrivate::freshName() const
 {
     for (unsigned number = layers()->count() + 1;; ++number) {
@@ -78,7 +78,7 @@ QString SpriteEditorPrivate::freshName() const
     }
 }
 
-/// Above the one that is worked on.
+/// Adds a layer above the active one.
 void SpriteEditorPrivate::layerAdd()
 {
     if (!hasCanvas()) {
@@ -109,7 +109,7 @@ void SpriteEditorPrivate::layerClone()
     }
 }
 
-/// One stays: a canvas without layers cannot be painted on.
+/// Keeps the last layer: a canvas without layers cannot be painted on.
 void SpriteEditorPrivate::layerDel()
 {
     if (layers()->count() > 1 && canvas()->activeLayer()) {
@@ -127,8 +127,8 @@ void SpriteEditorPrivate::layerMergeAll()
     merge("mergeAll", true);
 }
 
-/// What comes takes the place of the lowest layer that goes. With `all` hidden layers are seen in
-/// the picture, too.
+/// The merged layer replaces the lowest of the layers it is made of. With `all`, hidden layers are
+/// merged, too.
 void SpriteEditorPrivate::merge(const char* title, bool all)
 {
     QVector<ImageLayer*> going;

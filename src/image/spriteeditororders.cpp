@@ -10,11 +10,11 @@
 #include <algorithm>
 #include <cstring>
 
-// A colour that moves in a palette takes the pixels of the sprites along, and undo brings them
-// back. A canvas can have more than its sprite: layers that are covered or hidden. So the orders
-// are kept. When the palette of a sprite has come to be in one of them, or back, and its pixels are
-// where that puts them, all layers follow: those of the canvas at once, those of a canvas that is
-// kept when it comes back.
+// When a colour moves to another palette entry, the pixels of the stored sprites are changed along
+// with it, and undo changes them back. A canvas can have more than its sprite: covered and hidden
+// layers. So recent reorderings are remembered. When the palette of a sprite changes by one of them
+// or its inverse, and the sprite's pixels moved the same way, all layers are changed, too: on the
+// present canvas at once, on a kept canvas when it is shown again.
 
 namespace Zorv {
 
@@ -61,8 +61,8 @@ QImage moved(QImage image, const PaletteOrder& places)
 
 }  // namespace
 
-/// Of the palette of a sprite. Entries that it lacks are opaque black: a palette that is reordered
-/// has all of them.
+/// The colours of a sprite's palette. Missing entries are opaque black; a reordered palette has all
+/// of them.
 EntryColors SpriteEditorPrivate::colorsOf(const Sprite* sprite)
 {
     RGBA entries[256];
@@ -75,7 +75,7 @@ EntryColors SpriteEditorPrivate::colorsOf(const Sprite* sprite)
     return colors;
 }
 
-/// Before the first one nobody had to know the colours.
+/// Also starts to track the colours of all canvases: before the first order nobody needs them.
 void SpriteEditorPrivate::rememberOrder(const PaletteOrder& order)
 {
     followInKept();
@@ -89,7 +89,7 @@ void SpriteEditorPrivate::rememberOrder(const PaletteOrder& order)
     }
 }
 
-/// The sprite of a canvas that is kept; null if it is no more.
+/// The sprite of a kept canvas; null if it is gone.
 const Sprite* SpriteEditorPrivate::spriteOf(const KeptCanvas& canvas)
 {
     const int at = canvas.sprites ? canvas.sprites->find(0, canvas.identifier) : -1;
@@ -97,8 +97,9 @@ const Sprite* SpriteEditorPrivate::spriteOf(const KeptCanvas& canvas)
     return !canvas.record || canvas.record == found ? found : nullptr;
 }
 
-/// Where each index has gone, if one of the orders, or taking it back, has made colours and picture
-/// what those of the sprite are now. The colours are made these.
+/// Returns where each index has moved, if one of the orders or its inverse turns the old colours
+/// and picture into the present ones of the sprite. Also updates `colorsBefore` to the present
+/// ones.
 std::optional<PaletteOrder> SpriteEditorPrivate::takeMove(const Sprite& now, const QImage& before,
                                                           EntryColors* colorsBefore) const
 {
@@ -121,7 +122,8 @@ std::optional<PaletteOrder> SpriteEditorPrivate::takeMove(const Sprite& now, con
     return {};
 }
 
-/// A canvas of another file hears of nothing: it looks before the next move, and when it is wanted.
+/// Kept canvases of other files get no signals, so they are checked before the next order and
+/// before they are shown.
 void SpriteEditorPrivate::followInKept()
 {
     for (size_t i = 0; !orders.empty() && i < kept.size(); ++i) {
@@ -135,7 +137,7 @@ void SpriteEditorPrivate::followInKept()
     }
 }
 
-/// Who paints goes on in the same colours: what erased must not draw.
+/// The foreground and background move along: an eraser must not start to draw.
 void SpriteEditorPrivate::followMoves()
 {
     if (orders.empty() || selGuard > 0) {
@@ -155,7 +157,7 @@ void SpriteEditorPrivate::followMoves()
     }
 }
 
-/// In all layers. The steps of the history are of the old indices, and go.
+/// Changes all layers. The history is cleared, because its steps hold old indices.
 void SpriteEditorPrivate::moveIndices(const PaletteOrder& places)
 {
     const ImageRenderer::Change change(renderer);

@@ -18,7 +18,7 @@ namespace {
 
 constexpr int MostColors = 4096;
 
-/// -1 for more than are worth counting.
+/// Counts distinct colours; -1 for too many.
 int countColors(const QImage& image)
 {
     const bool isIndexed = image.format() == QImage::Format_Indexed8;
@@ -89,8 +89,8 @@ ImgInfoDlg::Facts SpriteEditorPrivate::facts()
     return facts;
 }
 
-/// The canvas has its step, and the number of the sprite, which is none of the canvas's, one of the
-/// file.
+/// A change of the canvas is a step of the canvas. The sprite's number is not part of the canvas,
+/// so its change is a step of the file.
 void SpriteEditorPrivate::imgProps()
 {
     if (!sprite() || !hasCanvas()) {
@@ -124,7 +124,7 @@ void SpriteEditorPrivate::imgProps()
     }
 }
 
-/// Of the same sprite: the canvas stays.
+/// The sprite stays the same, so the canvas is not reloaded.
 void SpriteEditorPrivate::renumber(SpriteNumber number)
 {
     {

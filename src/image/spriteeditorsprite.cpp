@@ -14,6 +14,12 @@
 
 #include <cstring>
 
+// Which sprite is on the canvas. A sprite is found again by its address while its file is open, and
+// by its identifier after the file was reloaded (`Match`). `sprites` is the present collection;
+// when another project comes to the front while the canvas has unsaved work, its collection waits
+// in `waiting`. When the stored sprite changes, an unchanged canvas is loaded again, and one with
+// work stays and counts as modified.
+
 namespace Zorv {
 
 namespace {
@@ -27,7 +33,7 @@ QVariant identifierOf(const Sprite& sprite)
 
 }  // namespace
 
-/// In one of the two forms that a canvas has, so that pictures can be compared.
+/// Converts a picture to one of the two canvas formats, so that pictures can be compared.
 QImage SpriteEditorPrivate::canvasForm(const QImage& image)
 {
     return image.isNull() || image.format() == QImage::Format_Indexed8
@@ -45,7 +51,7 @@ bool SpriteEditorPrivate::hasCanvas() const
     return layers()->count() > 0;
 }
 
-/// Other sprites, with none of them on the canvas yet.
+/// Switches to other sprites, none of which is on the canvas yet.
 void SpriteEditorPrivate::take(Sprites* now)
 {
     keepCanvas();
@@ -86,7 +92,7 @@ void SpriteEditorPrivate::take(Sprites* now)
     }
 }
 
-/// The sprites of the project in front, when nothing on the canvas is in the way.
+/// Switches to the sprites of the project in front once the canvas has no unsaved work.
 void SpriteEditorPrivate::takeWaiting()
 {
     if (isWaiting && !editor->isCanvasModified()) {
@@ -101,7 +107,7 @@ void SpriteEditorPrivate::showFirst()
     }
 }
 
-/// The current row goes with its sprite. One that was read anew, or that comes back, is looked for.
+/// The current row moves with its sprite. A sprite that was reloaded or restored is searched.
 int SpriteEditorPrivate::findShown(Match match) const
 {
     if (match == SameRecord && row >= 0 && sprites->sprite(sprites->currentIndex) == shown) {
@@ -123,7 +129,7 @@ int SpriteEditorPrivate::findShown(Match match) const
     return -1;
 }
 
-/// What is on the canvas alone stays there, whatever becomes of its sprite.
+/// Work that exists only on the canvas stays there, whatever happens to its sprite.
 void SpriteEditorPrivate::spritesChanged(Match match)
 {
     if (selGuard > 0 || !sprites) {
@@ -156,7 +162,7 @@ void SpriteEditorPrivate::spritesChanged(Match match)
     }
 }
 
-/// The row of the sprite on the canvas is the current one, which goes with it.
+/// Makes the row of the sprite on the canvas the current one, which then moves with the sprite.
 void SpriteEditorPrivate::bind(int index)
 {
     row = index;
@@ -169,8 +175,8 @@ void SpriteEditorPrivate::bind(int index)
     }
 }
 
-/// What the sprite is now. A canvas that keeps other pixels differs from it from now on. A file
-/// that was read anew comes before layers that were saved: those are put aside.
+/// Takes over a changed sprite. A canvas that keeps other pixels counts as modified from now on. A
+/// reloaded file wins over layers that are already saved: that canvas is put aside.
 void SpriteEditorPrivate::takeChange(const Sprite& now, Match match, bool isModified)
 {
     if (now.palette() != ownPalette) {
@@ -237,7 +243,7 @@ void SpriteEditorPrivate::next()
     }
 }
 
-/// What is on the canvas goes, or is kept if nothing of it is unsaved.
+/// Replaces the canvas. The old one is kept (cached) if it has no unsaved work.
 void SpriteEditorPrivate::show(int index)
 {
     keepCanvas();

@@ -9,9 +9,9 @@
 
 #include <cstring>
 
-// What is on the canvas and not in its sprite. Whether there is any is asked after each step and by
-// whatever marks unsaved files: so the canvas is compared only where it was touched since it was
-// the same, and once a change.
+// Detects whether the canvas has work that is not in its sprite. This is queried after each step
+// and by everything that marks unsaved files. To be fast, only the area touched since both were
+// equal is compared, and only once per change.
 
 namespace Zorv {
 
@@ -70,7 +70,7 @@ void SpriteEditorPrivate::touch(const QRect& rect)
     isKnownChanged.reset();
 }
 
-/// The canvas is as the sprite is.
+/// Call when canvas and sprite are equal.
 void SpriteEditorPrivate::setStored()
 {
     history()->setClean();
@@ -90,7 +90,8 @@ QVector<ImageLayer*> SpriteEditorPrivate::hiddenLayers() const
     return hidden;
 }
 
-/// True for what undo, or showing a hidden layer, can take back: it need not be different.
+/// A quick test for changes that undo, or showing a hidden layer, can revert. The pixels may still
+/// be equal.
 bool SpriteEditorPrivate::mayBeChanged() const
 {
     return hasCanvas() && (!history()->isClean() || hiddenLayers() != storedHidden);
@@ -110,7 +111,7 @@ bool SpriteEditorPrivate::isChanged()
     return *isKnownChanged;
 }
 
-/// A canvas that only has another selection than at first holds no work.
+/// A step that only changed the selection is no work: it leaves the pixels equal.
 bool SpriteEditorPrivate::compare() const
 {
     if (history()->isClean()) {
@@ -127,7 +128,8 @@ bool SpriteEditor::isCanvasModified() const
     return d->isChanged();
 }
 
-/// True if something else can be shown. Work without a sprite can only be discarded.
+/// Asks about unsaved work. True if another sprite can be shown. Without a sprite the work can only
+/// be discarded.
 bool SpriteEditorPrivate::mayLeave()
 {
     enum Answer { Save, Discard };
@@ -152,8 +154,8 @@ bool SpriteEditorPrivate::mayLeave()
     return answer >= 0 && !isChanged();
 }
 
-/// By undo or redo to where the canvas was as the sprite is; if its history has no such place any
-/// more, the sprite is read again.
+/// Undoes or redoes to the state that was equal to the sprite. If the history has no such state any
+/// more, the sprite is loaded again.
 void SpriteEditorPrivate::goBack()
 {
     const ImageRenderer::Change change(renderer);
@@ -178,14 +180,14 @@ void SpriteEditorPrivate::goBack()
     }
 }
 
-/// In the sprite's own colours, whatever ones are looked at.
+/// Flattens in the sprite's own colours, whatever colours are shown.
 QImage SpriteEditorPrivate::flattened()
 {
     endPreview();
     return canvas()->mergeLayers(nullptr);
 }
 
-/// Part of larger steps, so what there is to tell waits for the end of those.
+/// Called within larger operations, so an error is shown only after they have ended.
 void SpriteEditorPrivate::saveImg()
 {
     QString error;
@@ -205,7 +207,7 @@ bool SpriteEditorPrivate::putIntoSprite(QString* error)
         const QScopedValueRollback<int> guard(selGuard, selGuard + 1);
         sprites->beginChange(SpriteEditor::tr("Save image changes"));
         sprite()->setImage(picture);
-        if (sprite()->size() == picture.size()) {  // else it was refused
+        if (sprite()->size() == picture.size()) {  // otherwise it was refused
             sprite()->setProperty(QStringLiteral("Axis"), canvas()->axis());
         }
         sprites->endChange();
@@ -214,7 +216,7 @@ bool SpriteEditorPrivate::putIntoSprite(QString* error)
     loaded = now ? canvasForm(now->image()) : QImage();
     loadedAxis = now ? now->axis() : QPoint();
     loadedColors = colorsOf(now);
-    ownPalette = now ? now->palette() : nullptr;  // in true colour the sprite has none any more
+    ownPalette = now ? now->palette() : nullptr;  // a true-colour sprite loses its palette
     const bool isRefused =
         !areSamePixels(before, canvasForm(picture)) && areSamePixels(before, loaded);
     if (picture.isNull() || isRefused) {

@@ -11,9 +11,8 @@
 
 #include <algorithm>
 
-// What a sprite is called, where it goes and what it meets there is worked out before anything is
-// changed. Then each sprite is copied in this thread, read in another one, and put in its place in
-// this one again, a few at a time.
+// Names, rows and conflicts are planned before anything is changed. Then each sprite is copied on
+// this thread, read on a worker thread, and inserted on this thread again, a few at a time.
 
 namespace Zorv {
 
@@ -21,7 +20,7 @@ namespace {
 
 constexpr int ColorCount = 256;
 
-/// Makes the texts of this file known to translators.
+/// The context of the texts of this file for translators.
 class Text
 {
     Q_DECLARE_TR_FUNCTIONS(Zorv::SpriteImport)
@@ -38,8 +37,7 @@ const Sprite* spriteOf(const ImportEntry& entry)
     return list ? list->sprite(entry.source.row()) : nullptr;
 }
 
-/// All entries, in a form that tells whether two palettes are equal; those that one lacks are
-/// opaque black.
+/// All entries as bytes, so that palettes can be compared. Missing entries are opaque black.
 QByteArray colorsOf(const Palette& palette)
 {
     RGBA colors[ColorCount];
@@ -48,7 +46,7 @@ QByteArray colorsOf(const Palette& palette)
     return {reinterpret_cast<const char*>(colors), sizeof colors};
 }
 
-/// Without the alpha of entry 0, which programs tell differently of the same palette.
+/// Without the alpha of entry 0, which programs store differently for the same palette.
 QByteArray alikeOf(QByteArray colors)
 {
     colors[int(offsetof(RGBA, a))] = 0;
@@ -160,7 +158,7 @@ void SpriteImport::take(int step, const Arrival& arrival)
     }
 }
 
-/// Pixels come before their palette, which a sprite of true colour would not take.
+/// Sets the pixels before the palette, because a true-colour sprite would refuse a palette.
 bool SpriteImport::put(const Step& step, const Arrival& arrival)
 {
     Sprite* sprite = step.isNew                ? m_destination->addSprite()

@@ -26,13 +26,13 @@ namespace Zorv {
 
 namespace {
 
-/// Makes the texts of this file known to translators.
+/// The context of the texts of this file for translators.
 class Text
 {
     Q_DECLARE_TR_FUNCTIONS(Zorv::SpriteSave)
 };
 
-/// An identifier of a host that does not number its sprites, without what has a meaning in paths.
+/// For sprites without numbers: the identifier, without characters that are special in paths.
 QString safeName(const Sprite* sprite, int row)
 {
     static const QRegularExpression unsafe(QStringLiteral("[\\x00-\\x1f/\\\\%:*?\"<>|,]"));
@@ -41,7 +41,7 @@ QString safeName(const Sprite* sprite, int row)
     return name.isEmpty() ? QStringLiteral("sprite-%1").arg(row + 1) : name;
 }
 
-/// "GROUP-NUMBER", and "GROUP-NUMBER_2" for the second sprite of the same number.
+/// "GROUP-NUMBER", and "GROUP-NUMBER_2" for the second sprite with the same number.
 QStringList namesOf(const Sprites& sprites, const QVector<int>& rows)
 {
     QHash<QString, int> counts;
@@ -57,7 +57,7 @@ QStringList namesOf(const Sprites& sprites, const QVector<int>& rows)
     return names;
 }
 
-/// As texts of a PNG file, so that they come back with it.
+/// Stores axis and palette as texts of a PNG file, so that loading restores them.
 void putTexts(QImage* image, const Sprite& sprite)
 {
     const QPoint axis = sprite.axis();
@@ -126,7 +126,7 @@ bool SpriteSave::askForFolder()
     return true;
 }
 
-/// The dialog asks about the name itself, which no file gets.
+/// The dialog confirms overwriting only the chosen name itself, which no file gets.
 bool SpriteSave::askForName()
 {
     const QString chosen = Dialogs::instance()->saveFileName(
@@ -144,7 +144,7 @@ bool SpriteSave::askForName()
     return true;
 }
 
-/// A file dialog has asked about a file, but nobody yet about those of a folder.
+/// Asks before files are replaced, because no file dialog has asked about these names yet.
 bool SpriteSave::mayReplace() const
 {
     const auto existing = std::count_if(m_paths.begin(), m_paths.end(), [](const QString& path) {
@@ -186,7 +186,7 @@ void SpriteSave::write()
     tellResult(written);
 }
 
-/// Empty if that was done.
+/// Writes one sprite. Returns the error, empty on success.
 QString SpriteSave::write(int index)
 {
     const QString& path = m_paths.at(index);

@@ -4,7 +4,7 @@ namespace Zorv {
 
 namespace {
 
-/// In the order of the numbers.
+/// In the order of `Id`.
 const TextTable::Row rows[SpriteTexts::End - SpriteTexts::First] = {
     {QT_TRANSLATE_NOOP("Zorv::SpriteTexts", "Sprite:"),
      QT_TRANSLATE_NOOP("Zorv::SpriteTexts", "The sprite on the canvas")},

@@ -1,5 +1,5 @@
-// The axes of symmetry cross all of the picture, where a press has to paint. They are dragged at
-// grips, which stand beside the picture as far as there is room.
+// The symmetry axes cross the whole picture, where a press must paint. So they are dragged at
+// grips, which are outside the picture as far as there is room.
 
 #include "image/imagerenderer_p.h"
 
