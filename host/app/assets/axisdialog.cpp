@@ -96,7 +96,7 @@ void setAxesOfSelected(const SpritePanel* panel, Zorv::SpriteEditor* canvas, QWi
         canvas->saveImage();
     }
     // If the canvas cannot be saved, do not change its axis: the next save would restore the old
-    // one. The user is told why.
+    // one. A message explains why.
     const bool isSaved = !isOnCanvas || !canvas->isCanvasModified();
     const Operations::MediaResult result =
         isSaved ? Operations::setAxes(sprites, rows, dialog.base(), dialog.offset())

@@ -22,6 +22,16 @@
 #include <QScopedValueRollback>
 #include <QTimer>
 
+// For each open file, `m_stamps` has the state of the file on disk (size, time, for small texts
+// also a hash) when it was last read or written here. A file was changed by another program if its
+// current stamp differs.
+//
+// The marks in the game tree are computed anew on the next turn of the event loop and only passed
+// on if they differ. So a signal may come too often, but must not be missed.
+//
+// Changed files with unsaved edits wait in `m_toAsk`; one loop asks about them one after the other.
+// Files without edits are returned to the library, which reloads them.
+
 namespace App {
 
 using Family::FamilyProject;

@@ -22,6 +22,14 @@
 #include <algorithm>
 #include <vector>
 
+// A bar has up to four forms: a tool bar, a panel with a tool bar and widgets below it, a panel
+// with a form, or a page that a part of the window shows. `Bar::host()` is the outermost widget in
+// each case.
+//
+// All changes only request `updateVisibility()`, which runs on the next turn of the event loop. It
+// computes the visibility of every bar from the current state: tools, areas, groups and the user's
+// switches. Nothing is remembered except whether a panel was raised.
+
 namespace App {
 
 namespace {
@@ -119,7 +127,7 @@ struct ControlBars::Bar
     QVBoxLayout* layout = nullptr;           // of the panel
     ControlForm* form = nullptr;             // for a bar with rows, instead of `tools`
     QMap<const QAction*, int> lines = {};    // separators, with their place in the order
-    bool wasInFront = false;  // the panel was raised when last hidden, or is to come first
+    bool wasInFront = false;  // a panel that was raised when last hidden; or comes first
 
     QWidget* host() const
     {

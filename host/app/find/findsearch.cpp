@@ -8,6 +8,15 @@
 #include <QTimer>
 #include <algorithm>
 
+// Two positions matter: `m_origin`, where the user put the cursor, and `m_shown`, the last match
+// that the search selected. Searching while typing always starts at the origin, so that a longer
+// pattern can match again at the same place. Cursor moves by the search itself are marked by the
+// counter `m_moving`; all others set a new origin.
+//
+// A forward search runs the expression from the selection's end, then from the start of the text. A
+// backward search looks the match up in the counted ones, and only searches backward itself beyond
+// the counter's limit. Counting is restarted when the text has not been edited for a while.
+
 namespace App {
 
 using Place = MatchCounter::Place;

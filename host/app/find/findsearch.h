@@ -42,8 +42,8 @@ public:
     /// True if the selection is a match found by this search.
     bool isMatchSelected() const;
 
-    /// Goes to the first match after the place where the user put the cursor; without a match, the
-    /// cursor returns there.
+    /// Goes to the first match from where the user put the cursor, else from the start of the text.
+    /// Without a match, the cursor returns there.
     void findWhileTyping();
 
     /// Goes to the next or previous match, wrapping around. Skips an empty match at the cursor.

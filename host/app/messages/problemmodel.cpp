@@ -4,6 +4,13 @@
 
 #include <algorithm>
 
+// Problems are stored per file, and files are sorted by name. `m_starts` has the first row of each
+// file, so that a row is found by binary search. It is computed on demand and cleared by each
+// change.
+//
+// A new list of a file is compared with the old one from both ends. Views get the smallest
+// insertion or removal, and keep selection and scroll position.
+
 namespace App {
 
 using Family::Problem;

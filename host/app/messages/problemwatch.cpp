@@ -17,6 +17,11 @@
 #include <QDir>
 #include <QTimer>
 
+// Each signal of a file only adds its path to `m_changed`. A timer then passes all changed files on
+// at once: the text of a modified document, or null to make the check read the file again.
+// `m_watched` remembers the path of each watched object, because a renamed object changes two
+// paths, the old and the new one. A document without a name gets a made-up path in the game folder.
+
 namespace App {
 
 using Family::FamilyDocument;

@@ -17,7 +17,7 @@ bool FamilySpriteEditor::takeFiles(Zorv::Sprites* into, const QStringList& files
     return true;
 }
 
-/// Another sprite with the same number is no replacement here.
+/// Looks for uses even if another sprite has the same number.
 bool FamilySpriteEditor::spriteUses(QStringList* places) const
 {
     const Family::FamilySprite* current = collection()->sprite(spriteIndex());

@@ -9,6 +9,11 @@
 #include <zorv/image/imagerenderer.h>
 #include <zorv/image/spriteeditor.h>
 
+// Coordinates go from a neighbour's pixels to its axis, by its frame into the game, and by the
+// inverse of the canvas frame back to the pixels of the canvas. Rotating and scaling a picture is
+// the expensive part and does not depend on the axis of the canvas. It is done once per neighbour;
+// when the axis moves, only the position of the result changes.
+
 namespace App {
 
 using Zorv::FrameCode;

@@ -22,6 +22,14 @@
 #include <QTimer>
 #include <algorithm>
 
+// Offering goes in four steps. The dialog returns a decision per copy. Discarded copies are
+// deleted. The copies to restore are loaded into their files, opening game and projects as needed;
+// canvases come last. When the restored work has been stored in new copies, the old ones are
+// deleted, so that another crash at any point loses nothing.
+//
+// Work of other games is not restored: it is offered again when that game is opened. `m_offers`
+// guards against re-entrance, because restoring can open a game.
+
 namespace App {
 
 using Family::FamilyDocument;

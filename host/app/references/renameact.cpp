@@ -19,6 +19,13 @@
 
 #include <algorithm>
 
+// The changes are first written to disk as a whole, with all open files' watches paused. Then each
+// open file follows. In a text, the renamed lines are edited as one undo step. The result should
+// equal the file, and is saved to mark it as saved; if it differs, the text is reloaded. Sprites
+// and sounds are reloaded.
+//
+// To undo a rename, the same act runs with old and new contents swapped.
+
 namespace App {
 
 using Family::FamilyDocument;

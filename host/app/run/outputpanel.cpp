@@ -15,6 +15,11 @@
 
 #include <algorithm>
 
+// Output is cut into pieces of limited size, which wait in a queue. A timer shows one piece per
+// turn, so that the window stays usable while a program prints without pause. If more is waiting
+// than the view can hold, the oldest pieces are dropped before they are decoded, and one note says
+// how much is missing. Notes of the editor are never dropped.
+
 namespace App {
 
 namespace {

@@ -26,6 +26,13 @@
 
 #include <utility>
 
+// `run()` returns when the engine has ended: the game runs an event loop meanwhile. So every call
+// in it that can open a dialog or run the engine may return after the game, or this object, was
+// destroyed; guarded pointers check that.
+//
+// While the player is connected, `run()` and saving only send it a new copy of the project.
+// `m_playSoon` merges several saves into one copy.
+
 namespace App {
 
 using Zorv::Dialogs;

@@ -2,6 +2,13 @@
 
 #include <algorithm>
 
+// Top-level rows are files, sorted by path; their children are the hits. The index of a hit points
+// to its `File`, the index of a file has no pointer. So a hit finds its parent without a search,
+// and files can move to other rows.
+//
+// New results of a file are compared with the old ones from both ends, so that unchanged hits keep
+// their rows and check boxes.
+
 namespace App {
 
 using Operations::FileHits;

@@ -19,6 +19,14 @@
 #include <QMap>
 #include <algorithm>
 
+// Saving has four steps. First, edits that are still in an editor are stored in their file objects.
+// Second, the objects are grouped by file name: several projects can each have an object of one
+// file, and if their contents differ the user chooses one. Third, the files are written; the file
+// watch of the other objects is paused so that they do not report this change. Fourth, those
+// objects reload the written file.
+//
+// Errors are collected and shown together at the end.
+
 namespace App {
 
 using Family::FamilyDocument;

@@ -11,13 +11,19 @@
 #include <QVariant>
 #include <algorithm>
 
+// `m_share` is the stage's share of the splitter's height. It is read from the widgets just before
+// the stage is hidden or emptied, and applied when the stage comes back. Applying waits until the
+// splitter is visible and the text's own widgets are in place: before that, sizes are meaningless.
+// Without a stored share, the text keeps a number of lines, and the stage gets the rest up to a
+// limit.
+
 namespace App {
 
 namespace {
 
 const QString ShareKey = QStringLiteral("stage_share");
-constexpr int LinesOfText = 18;       // lines left by the stage at first, if possible
-constexpr double LargestShare = 0.6;  // of the height, at first
+constexpr int LinesOfText = 18;       // lines of text that stay visible at first, if possible
+constexpr double LargestShare = 0.6;  // limit for the stage at first
 
 }  // namespace
 

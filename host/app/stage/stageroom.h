@@ -13,7 +13,7 @@ namespace App {
 class StageView;
 
 /// Controls the height of the stage above the text: as the user left it, or one line while it is
-/// empty. The ratio of the two is stored in the settings.
+/// empty. The stage's share of the height is stored in the settings.
 class StageRoom : public QObject
 {
     Q_OBJECT
@@ -28,7 +28,7 @@ public:
     /// True from `update()` until the view has its height; then `applied()` is sent.
     bool isPending() const { return m_isNeeded; }
 
-    /// Stores the ratio in the settings.
+    /// Stores the share in the settings.
     void keep();
 
 signals:

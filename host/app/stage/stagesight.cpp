@@ -12,6 +12,10 @@
 #include <QEvent>
 #include <QTimer>
 
+// The view moves only if the last frame was completely visible (`m_wasWhole`) or another animation
+// is shown: otherwise the user has zoomed in on a detail and wants to keep it. Moving waits for the
+// next turn of the event loop, and until the stage has its size (`StageRoom`).
+
 namespace App {
 
 namespace {

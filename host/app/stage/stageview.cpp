@@ -16,6 +16,11 @@
 #include <QVariant>
 #include <QWheelEvent>
 
+// The stage's origin is stored as a fraction of its size. When the size changes, the origin is
+// computed from that fraction. If the user moved the origin meanwhile, the fraction is first
+// computed from the new place. The size is stored in the settings, so that the first size of the
+// next session counts as a change too.
+
 namespace App {
 
 namespace {

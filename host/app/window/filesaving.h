@@ -8,8 +8,8 @@ namespace App {
 
 struct WindowServices;
 
-/// Saves the current file, reports it in the status bar, and makes the window check the game again.
-/// See `saveFiles()`.
+/// Saves the file that the user works on, reports it in the status bar, and makes the window check
+/// the game again. See `saveFiles()`.
 void saveFile(const WindowServices& services, Zorv::ProjectFile* file);
 
 }  // namespace App
