@@ -14,7 +14,7 @@ namespace {
 
 const int Block = 16;
 
-// With more of them it is faster to take the bytes one by one.
+// Above this number, copying single bytes is faster.
 const int MaxBlocks = 6;
 
 bool canShuffle()
@@ -35,8 +35,8 @@ ByteGather::ByteGather(std::vector<int> positions, int length) : m_positions(std
     }
 }
 
-/// Divides the result into groups; the last two may overlap. False if that is not possible or of
-/// no use.
+/// Divides the result into groups, of which the last two may overlap. False if that is impossible
+/// or useless.
 bool ByteGather::plan(int length)
 {
     const int count = int(m_positions.size());
@@ -61,7 +61,7 @@ void ByteGather::addGroup(int to, int from, int blocks)
         Shuffle shuffle;
         for (int i = 0; i < Block; ++i) {
             const int at = m_positions[std::size_t(to + i)] - from - block * Block;
-            // The high bit leaves a byte to the other blocks.
+            // With the high bit set the byte becomes zero, so another block can supply it.
             shuffle[std::size_t(i)] = at >= 0 && at < Block ? quint8(at) : quint8(0x80);
         }
         m_shuffles.push_back(shuffle);

@@ -7,14 +7,15 @@
 
 namespace Zorv {
 
-/// Takes the bytes at given positions from many rows.
+/// Copies the bytes at fixed positions, for many rows.
 ///
-/// Where the processor can shuffle bytes, 16 of the result are made at a time from the blocks of
-/// 16 that they lie in; how is found out once for all rows.
+/// If the processor has a byte shuffle, 16 result bytes are made at a time from the 16-byte blocks
+/// that contain them. The plan is computed once for all rows.
 class ByteGather
 {
 public:
-    /// `positions` rise or stay and are below `length`, that of the rows.
+    /// `positions` are in ascending order, may repeat, and are below `length`, the length of the
+    /// rows.
     ByteGather(std::vector<int> positions, int length);
 
     void take(const quint8* from, quint8* to) const;
@@ -22,7 +23,7 @@ public:
 private:
     using Shuffle = std::array<quint8, 16>;
 
-    /// How 16 bytes of the result come about: one shuffle for each block from `from` on.
+    /// A plan for 16 result bytes: one shuffle per block, starting at `from`.
     struct Group
     {
         int to;

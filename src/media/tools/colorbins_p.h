@@ -7,18 +7,18 @@
 
 namespace Zorv {
 
-/// The pixels whose colours share their upper bits.
+/// The pixels whose colours have the same upper bits.
 struct ColorBin
 {
-    quint32 key = 0;     ///< the shared bits; bytes from the top are alpha, red, green, blue
-    double weight = 0;   ///< how many
-    double sum[4] = {};  ///< of red, green, blue and alpha over them, unless the bins are exact
+    quint32 key = 0;     ///< the common bits; bytes from the top are alpha, red, green, blue
+    double weight = 0;   ///< number of pixels
+    double sum[4] = {};  ///< of red, green, blue and alpha; not used while bins are exact
 };
 
-/// Counts colours in a bounded number of bins.
+/// Counts colours in a limited number of bins.
 ///
-/// At first a bin holds one colour. When the bins are used up, neighbours are joined: the
-/// bins lose the lowest bit of each channel, all at once.
+/// At first every bin is one colour. When the bins run out, neighbours are merged: all bins lose
+/// the lowest bit of each channel at once.
 class ColorBins
 {
 public:
@@ -35,19 +35,19 @@ public:
         }
         ColorBin& bin = m_bins[*slot - 1U];
         bin.weight += count;
-        // The sums of a bin of one colour would tell what its key tells.
+        // For a bin of one colour the key already contains the sums.
         if (!areExact()) {
             addTo(bin, color, count);
         }
     }
 
-    /// Whether each bin still is one colour.
+    /// Whether every bin is still a single colour.
     bool areExact() const { return m_mask == ~0U; }
 
-    /// In the order in which their first colours came, as long as they are exact.
+    /// In the order in which the colours first appeared, as long as they are exact.
     const std::vector<ColorBin>& bins() const { return m_bins; }
 
-    /// The mean of a channel, 0 to 3 for red, green, blue and alpha, in one of the bins.
+    /// The mean of a channel in a bin; channels 0 to 3 are red, green, blue and alpha.
     double mean(const ColorBin& bin, int channel) const
     {
         const int shift = channel == 3 ? 24 : 16 - 8 * channel;
@@ -65,7 +65,7 @@ private:
         bin.sum[3] += count * double(color >> 24);
     }
 
-    /// The slot of a bin, or the one that it is to take.
+    /// The slot of a bin, or the free slot for it.
     quint16* find(quint32 key)
     {
         quint32 at = key * 0x9E3779B1U >> (32 - SlotBits);
@@ -79,7 +79,7 @@ private:
     void coarsen();
 
     std::vector<ColorBin> m_bins;
-    std::array<quint16, 1 << SlotBits> m_slots;  ///< the numbers of bins, from 1; 0 for none
+    std::array<quint16, 1 << SlotBits> m_slots;  ///< bin numbers, from 1; 0 is empty
     quint32 m_mask = ~0U;
 };
 

@@ -9,30 +9,30 @@
 
 namespace Zorv {
 
-/// Whose eyes lack one of the three kinds of cones.
+/// Colour blindness: one of the three kinds of cones is missing.
 enum class ColorBlindness {
-    Protanopia,    ///< no cones for long waves: red is dark, and looks like green
-    Deuteranopia,  ///< none for middle waves: red and green look alike; the most common of the
+    Protanopia,    ///< no long-wave cones: red is dark and looks like green
+    Deuteranopia,  ///< no middle-wave cones: red and green look alike; the most common of the
                    ///< three
-    Tritanopia     ///< none for short waves: blue looks like green; rare
+    Tritanopia     ///< no short-wave cones: blue looks like green; rare
 };
 
-/// The colour that looks to other people as this one looks to somebody with that blindness. Greys
-/// and alpha stay. May be called in any thread.
+/// Simulates how a colour looks to someone with a colour blindness. Greys and alpha are unchanged.
+/// Any thread.
 ///
-/// The matrices, applied to linear light, are those for severity 1.0 of G. M. Machado, M. M.
-/// Oliveira, L. A. F. Fernandes, "A Physiologically-based Model for Simulation of Color Vision
+/// The matrices are applied to linear light. They are those for severity 1.0 in G. M. Machado, M.
+/// M. Oliveira, L. A. F. Fernandes, "A Physiologically-based Model for Simulation of Color Vision
 /// Deficiency", IEEE Transactions on Visualization and Computer Graphics 15 (6), 2009.
 ZORV_EXPORT RGBA seenWith(ColorBlindness blindness, RGBA color);
 
-/// How somebody sees colours; empty for as they are.
+/// A kind of colour vision; empty means normal.
 using ColorSight = std::optional<ColorBlindness>;
 
-/// The same where there may be nothing to do.
+/// The same; unchanged if `sight` is empty.
 ZORV_EXPORT RGBA seenWith(const ColorSight& sight, RGBA color);
 
-/// A copy of an image of any form, as 32 bit with alpha; null for one that is null, or too large
-/// for memory. Without a blindness it is the image itself.
+/// A simulated copy of an image of any format, as 32 bit with alpha. Null for a null image or one
+/// too large for memory. If `sight` is empty, the image itself.
 ZORV_EXPORT QImage seenWith(const ColorSight& sight, const QImage& image);
 
 }  // namespace Zorv

@@ -4,7 +4,7 @@
 
 namespace Zorv {
 
-/// From light to light; a row for each channel that is made.
+/// Maps linear light to linear light; one row per output channel.
 using SightMatrix = double[3][3];
 
 const SightMatrix& sightMatrix(ColorBlindness blindness);

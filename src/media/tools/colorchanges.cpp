@@ -56,7 +56,7 @@ QVector<RGBA> rampBetween(RGBA from, RGBA to, int count, ColorSpace space)
 {
     QVector<RGBA> colors;
     for (int i = 0; i < count; ++i) {
-        // The ends are what was asked for, whatever rounding does.
+        // The ends are exact, whatever rounding does.
         const bool isEnd = i == 0 || i == count - 1;
         colors.append(isEnd ? (i == 0 ? from : to)
                             : mixed(from, to, double(i) / (count - 1), space));

@@ -1,3 +1,14 @@
+// Merging and refining of colour clusters.
+//
+// Merging two clusters adds an error of their squared distance times w1 * w2 / (w1 + w2), where w
+// are their weights. Every cluster knows its cheapest partner among those with a higher index, so
+// every pair is stored once and the cheapest merge of all is a minimum over one array. After a
+// merge, the distances to the new mean are computed once. A full search is repeated only for
+// clusters whose partner was merged and did not get cheaper.
+//
+// Refinement compares a point only with the few clusters nearest to its own: a point rarely belongs
+// anywhere else, and comparing with all would cost far more.
+
 #include "media/tools/colorclusters_p.h"
 
 #include "media/tools/octreenode_p.h"
@@ -10,7 +21,7 @@ namespace Zorv {
 
 namespace {
 
-// How many clusters around that of a point are looked at for a nearer one.
+// How many neighbours of a point's cluster are compared with the point.
 const size_t NeighbourCount = 6;
 
 float squaredDistance(const float* x, const float* y)
@@ -22,7 +33,7 @@ float squaredDistance(const float* x, const float* y)
     return sum;
 }
 
-// Clusters channel by channel, the form in which one is soonest compared with all others.
+// Clusters stored channel by channel, which makes comparing one with all others fastest.
 struct ClusterRows
 {
     std::array<std::vector<float>, 4> mean;
@@ -43,8 +54,8 @@ struct ClusterRows
         return {{mean[0][index], mean[1][index], mean[2][index], mean[3][index]}, weight[index]};
     }
 
-    // The distances of those from number `first` on to another one, into `result` at the same
-    // places.
+    // The squared distances from cluster `to` to all from `first` on; written to `result` at the
+    // same indices.
     void squaredDistances(size_t to, size_t first, float* result) const
     {
         const ColorCluster other = cluster(to);
@@ -59,8 +70,7 @@ struct ClusterRows
     }
 };
 
-// Clusters that are joined in pairs. Each knows the cheapest partner among those behind it, so that
-// each pair is known to one of the two.
+// The merging of clusters in pairs. Each knows its cheapest partner among those after it.
 class Joining
 {
 public:
@@ -105,12 +115,12 @@ public:
         m_stale.clear();
     }
 
-    // Those that are left, and for each of the first ones the number of that which it is in.
+    // The remaining clusters, and for each original cluster the index of the one that contains it.
     std::vector<ColorCluster> result(std::vector<int>& numbers) const
     {
         std::vector<ColorCluster> left;
         for (size_t i = 0; i < m_rows.size(); ++i) {
-            // A cluster is always joined to one in front of it.
+            // A cluster is always merged into an earlier one.
             const bool isLeft = m_parent[i] == i;
             numbers.push_back(isLeft ? int(left.size()) : numbers[m_parent[i]]);
             if (isLeft) {
@@ -159,8 +169,8 @@ private:
     }
 
     ClusterRows m_rows;
-    std::vector<float> m_costs;  // of one with each
-    std::vector<float> m_cost;   // of each with its partner
+    std::vector<float> m_costs;  // scratch: one cluster with each other
+    std::vector<float> m_cost;   // each cluster with its partner
     std::vector<size_t> m_partner;
     std::vector<size_t> m_parent;
     std::vector<size_t> m_stale;
@@ -168,7 +178,7 @@ private:
 
 using Nearby = std::array<int, NeighbourCount>;
 
-// The places of the lowest values, the lowest first.
+// The indices of the lowest values, lowest first.
 Nearby lowest(const std::vector<float>& values)
 {
     Nearby places{};
@@ -188,7 +198,7 @@ Nearby lowest(const std::vector<float>& values)
     return places;
 }
 
-// The nearest clusters of each, mostly itself first.
+// The nearest clusters of each cluster, usually itself first.
 std::vector<Nearby> neighbours(const std::vector<ColorCluster>& clusters)
 {
     ClusterRows rows;

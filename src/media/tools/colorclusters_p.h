@@ -8,19 +8,19 @@ namespace Zorv {
 class OctreeNode;
 struct ColorPoint;
 
-/// Groups of points, each with the mean that stands for them.
+/// A group of points, represented by its mean.
 struct ColorCluster
 {
     std::array<float, 4> mean;
     float weight;
 };
 
-/// Makes a cluster of each node, then joins the two whose joining adds the least error, until
-/// `count` are left. The points know their cluster afterwards.
+/// Makes a cluster of each node, then repeatedly merges the pair that adds the least error, until
+/// `count` are left. Also sets the cluster of each point.
 std::vector<ColorCluster> joinedClusters(const std::vector<OctreeNode>& nodes, int count);
 
-/// Moves points to a nearer cluster, where one of the neighbours of theirs is nearer, and the
-/// clusters to the mean of their points; that is once each.
+/// One step of refinement: each point moves to the nearest of the clusters around its own, then
+/// each cluster moves to the mean of its points.
 void refineClusters(std::vector<ColorCluster>& clusters, std::vector<ColorPoint>& points);
 
 }  // namespace Zorv

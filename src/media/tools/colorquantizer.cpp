@@ -1,3 +1,13 @@
+// Reduces the colours of images to a palette. Few enough colours are kept as they are; otherwise
+// there are four steps.
+//
+// 1. ColorBins counts the colours. If there are too many, they are merged by their upper bits.
+// 2. An octree splits the bins. The node with the largest error is split next, until there are
+//    slightly more nodes than colours wanted.
+// 3. The cheapest pairs of nodes are merged until the wanted number is left. Octree borders lie at
+//    fixed places and can cut a group of colours in two; merging repairs that.
+// 4. One refinement moves each bin to the nearest cluster around it, and each cluster to its mean.
+
 #include "media/tools/colorquantizer.h"
 
 #include "media/tools/colorbins_p.h"
@@ -16,7 +26,7 @@ namespace {
 
 const int MaxColors = 256;
 const int Refinements = 1;
-// So many more nodes than colours are made of the tree, for the cheapest of them to be joined.
+// The tree is split into this many nodes per colour, so that the cheapest can be merged again.
 const double NodesForColor = 1.125;
 
 QRgb toRgb(RGBA color)
@@ -30,7 +40,7 @@ RGBA fromRgb(QRgb color)
             quint8(qAlpha(color))};
 }
 
-// An index behind the end of the colour table is a transparent pixel.
+// An index beyond the colour table is a transparent pixel.
 std::array<QRgb, 256> fullColorTable(const QImage& image)
 {
     std::array<QRgb, 256> table{};
@@ -39,7 +49,7 @@ std::array<QRgb, 256> fullColorTable(const QImage& image)
     return table;
 }
 
-// The colour table of an indexed image, nothing of others.
+// The colour table of an indexed image; empty for others.
 QVector<RGBA> colorsOf(const QImage& image)
 {
     QVector<RGBA> colors;
@@ -51,7 +61,7 @@ QVector<RGBA> colorsOf(const QImage& image)
     return colors;
 }
 
-// The image in one of the three forms that the loops below read.
+// Converts to one of the three formats that the loops below read.
 QImage readable(const QImage& image)
 {
     switch (image.format()) {
@@ -64,7 +74,7 @@ QImage readable(const QImage& image)
     }
 }
 
-// The bits to set in a pixel, whose fourth byte counts only in an image with alpha.
+// The bits to set in each pixel: the fourth byte is meaningless in an image without alpha.
 QRgb opaqueBits(const QImage& image)
 {
     return image.format() == QImage::Format_RGB32 ? 0xFF000000 : 0;
@@ -113,7 +123,7 @@ void adaptIndexed(const QImage& source, NearestColors& nearest, QImage& result)
     const QVector<QRgb> palette = result.colorTable();
     std::array<quint8, 256> indices;
     for (int i = 0; i < 256; ++i) {
-        // Of equal colours a pixel keeps its own.
+        // With equal colours a pixel keeps its own index.
         const QRgb color = table[size_t(i)];
         const bool isThere = i < palette.size() && palette[i] == color;
         indices[size_t(i)] = isThere ? quint8(i) : nearest.find(color);
@@ -171,7 +181,7 @@ QVector<RGBA> clusteredColors(const ColorBins& bins, int count)
     return colors;
 }
 
-// Dark colours first; among those as dark the order is any, but always the same.
+// Dark colours first. Equally dark ones have an arbitrary but fixed order.
 bool isDarker(RGBA x, RGBA y)
 {
     const QRgb a = toRgb(x);

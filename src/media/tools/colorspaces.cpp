@@ -6,8 +6,8 @@
 #include <array>
 #include <cmath>
 
-// sRGB bytes are light through a curve (IEC 61966-2-1). OKLab takes the cube roots of what the
-// three kinds of cones get of that light, and is a matrix away from those.
+// sRGB bytes are linear light encoded by a curve (IEC 61966-2-1). OKLab computes the response of
+// the three kinds of cones to that light, takes the cube roots, and transforms them by a matrix.
 
 namespace Zorv {
 
@@ -15,8 +15,8 @@ namespace {
 
 constexpr double Turn = 360;
 
-// Light this far outside of what a screen shows comes from rounding: a third of a byte at the
-// dark end, where a byte is the least light.
+// Light this far outside 0 to 1 is a rounding error. It is a third of a byte step at the dark end,
+// where steps are smallest.
 constexpr double Slack = 1e-4;
 
 struct Light
@@ -43,7 +43,7 @@ const std::array<double, 256>& lights()
     return table;
 }
 
-// From where on light is nearer to the next byte.
+// The limits from which light is nearer to the next byte.
 const std::array<double, 255>& borders()
 {
     static const std::array<double, 255> table = [] {
@@ -56,7 +56,7 @@ const std::array<double, 255>& borders()
     return table;
 }
 
-// Of nothing that is no number.
+// Clamped to 0 to 1; not-a-number becomes 0.
 double held(double value)
 {
     return value > 0 ? std::min(value, 1.0) : 0;
@@ -90,7 +90,7 @@ bool isShown(const Light& light)
            std::max({light.r, light.g, light.b}) <= 1 + Slack;
 }
 
-// Its chroma cut down to the most that a screen shows.
+// The light of a colour with its chroma reduced to what a screen can show.
 Light shownLight(OKLab color)
 {
     const Light wanted = lightOf(color);
@@ -138,7 +138,8 @@ RGBA fromHSV(HSV color, quint8 alpha)
 {
     const double sixth = aroundCircle(color.h) / 60;
     const double value = held(color.v);
-    // A channel is at its most within a sixth around its own hue, and falls off within the next.
+    // A channel is at its maximum within a sixth of the circle around its own hue, and falls off
+    // over the next sixth.
     const auto channel = [&](int shift) {
         const double place = std::fmod(shift + sixth, 6.0);
         const double fall = held(std::min(place, 4 - place));

@@ -9,7 +9,7 @@ namespace Zorv {
 
 namespace {
 
-/// The rectangle around the pixels for which `shows` is true.
+/// The rectangle around all pixels for which `shows` is true.
 template <class Pixel, class Shows>
 QRect boundingRect(const Raster<const Pixel>& pixels, Shows shows)
 {
@@ -27,7 +27,7 @@ QRect boundingRect(const Raster<const Pixel>& pixels, Shows shows)
         top = std::min(top, y);
         bottom = y;
         left = std::min(left, int(first - row));
-        // What is known to be inside is not looked at again.
+        // Columns already inside the rectangle are not checked again.
         const Pixel* last = end - 1;
         while (last - row > right && !shows(*last)) {
             --last;
@@ -37,7 +37,7 @@ QRect boundingRect(const Raster<const Pixel>& pixels, Shows shows)
     return {QPoint(left, top), QPoint(right, bottom)};
 }
 
-/// The indices that show. One behind the end of the table has no colour, but it is no background.
+/// The visible indices. An index beyond the table has no colour, but is not background either.
 std::array<bool, 256> visibleIndices(const QImage& image, int background)
 {
     std::array<bool, 256> visible;
@@ -78,7 +78,7 @@ void cropImage(QImage& image, QPoint* offset, int background)
         *offset = rect.topLeft();
     }
     if (!image.isNull() && rect != image.rect()) {
-        // With nothing to show the first pixel is what stays: it shows nothing either.
+        // Without visible pixels the first pixel remains; it is invisible, too.
         image = image.copy(rect.isEmpty() ? QRect(0, 0, 1, 1) : rect);
     }
 }

@@ -7,15 +7,15 @@
 
 namespace Zorv {
 
-/// The smallest rectangle around the pixels that show; empty if there are none.
+/// The smallest rectangle around all visible pixels; empty if there are none.
 ///
-/// In an indexed image a pixel does not show if it is of the index `background`, or if its
-/// entry of the colour table is transparent; in any other if its alpha is 0. A form without alpha
-/// gives the whole image. A negative `background` is no index.
+/// In an indexed image a pixel is invisible if its index is `background` or its colour is
+/// transparent; in any other image, if its alpha is 0. A format without alpha gives the whole
+/// image. A negative `background` matches no index.
 ZORV_EXPORT QRect cropImageRect(const QImage& image, int background = 0);
 
-/// Cuts an image to that rectangle. `offset`, if given, takes its corner. An image in
-/// which nothing shows becomes one of 1 by 1. The colour table is kept.
+/// Crops an image to that rectangle. `offset`, if given, receives its top left corner. An image
+/// without visible pixels becomes 1 by 1. The colour table is kept.
 ZORV_EXPORT void cropImage(QImage& image, QPoint* offset = nullptr, int background = 0);
 
 }  // namespace Zorv

@@ -9,7 +9,7 @@ namespace Zorv {
 
 static const int Largest = 65535;
 
-// What one composite may have, so that it fits into a vector.
+// The limit for one composite, so that it fits into a vector.
 static const qint64 MostPixels = 1 << 28;
 
 static bool isInRange(const QSize& size)
@@ -62,7 +62,7 @@ void GIFAnimation::takeImage(Frame& frame, const QImage& source)
         takeNumbers(frame);
     }
     if (frame.image.isNull() || frame.shown.size() > 256) {
-        // One of them is left to the background.
+        // One colour is reserved for the background.
         const int colors = m_background != 0 ? 255 : 256;
         frame.image = ColorQuantizer::quantize(gifTrueColor(source), colors);
         takeNumbers(frame);
@@ -76,7 +76,7 @@ void GIFAnimation::takeNumbers(Frame& frame)
     const GIFIndexSet used = gifIndices(frame.image);
     frame.numbers.fill(0, 256);
     frame.shown.clear();
-    // The background shows beside an image that leaves room.
+    // The background is visible beside an image smaller than the canvas.
     if (m_background != 0 && frame.image.size() != m_canvas.size()) {
         frame.shown.append(numberOf(m_background));
     }
@@ -102,8 +102,8 @@ GIFColorNumber GIFAnimation::numberOf(QRgb color)
     return m_numbers.value(color);
 }
 
-/// The end of a frame is rounded, so that rounding never adds up. A frame that is shown for longer
-/// than a delay can tell is shown again.
+/// Rounds the end time of each frame, not its length, so rounding errors cannot add up. A frame
+/// longer than the greatest delay is repeated.
 void GIFAnimation::addDelays(Frame frame, int ticks)
 {
     m_ticks += qMax(1, ticks);
@@ -141,7 +141,7 @@ GIFTable GIFAnimation::globalTable() const
 {
     GIFTable table(numberCount());
     const auto isOpaque = [](const Frame& frame) { return !frame.shown.contains(0); };
-    // 256 colours and nothing transparent: no entry is left to tell what has not changed.
+    // With 256 colours and no transparency, no entry is left for "unchanged".
     const bool full =
         numberCount() == 257 && std::all_of(m_frames.begin(), m_frames.end(), isOpaque);
     if (!full) {

@@ -7,29 +7,29 @@
 
 namespace Zorv {
 
-/// The frames of an animation, made ready: on one canvas, of at most 256 colours each, with delays
-/// in hundredths of a second.
+/// The frames of an animation, prepared for writing: on one canvas, with at most 256 colours each
+/// and delays in hundredths of a second.
 class GIFAnimation
 {
 public:
     GIFAnimation(const QVector<GIFFrame>& frames, QRgb background);
 
-    /// False if there is nothing to write, or the canvas is too large.
+    /// False if there is nothing to write or the canvas is too large.
     bool isValid() const { return m_valid; }
 
     QSize size() const { return m_canvas.size(); }
     int count() const { return m_frames.size(); }
     int delay(int index) const { return m_frames[index].delay; }
 
-    /// What the canvas shows at a frame.
+    /// The content of the canvas at a frame.
     GIFComposite composite(int index) const;
 
-    /// One more than the highest number of a colour, and the colours.
+    /// The number of colour numbers, including 0, and the colour of each.
     int numberCount() const { return m_colors.size(); }
     QRgb color(GIFColorNumber number) const { return m_colors[int(number)]; }
 
-    /// A table for the whole file: with the colours of all frames if they fit, else with those of
-    /// the first ones that do.
+    /// The global colour table: with the colours of all frames if they fit, otherwise of the first
+    /// frames that fit.
     GIFTable globalTable() const;
 
 private:
@@ -37,8 +37,8 @@ private:
     {
         QImage image;  ///< `Format_Indexed8`
         QPoint position;
-        QVector<GIFColorNumber> numbers;  ///< of its 256 indices
-        QVector<GIFColorNumber> shown;    ///< those that it has pixels of
+        QVector<GIFColorNumber> numbers;  ///< for each of the 256 indices
+        QVector<GIFColorNumber> shown;    ///< the numbers that are visible
         int delay = 0;
     };
 

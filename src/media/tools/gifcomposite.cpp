@@ -39,8 +39,8 @@ const GIFColorNumber* GIFRows::assembled(int y, bool covered)
 
 namespace {
 
-/// Adds the pixels of a row that fulfil a condition, which one at least does, to the rectangle
-/// around them. Only what lies outside of it so far is looked at.
+/// Extends a rectangle by the pixels of a row that fulfil a condition; at least one does. Checks
+/// only pixels outside the rectangle so far.
 template <class Condition>
 void enclose(QRect& around, const QRect& area, int y, Condition condition)
 {

@@ -6,8 +6,8 @@
 
 namespace Zorv {
 
-/// What the canvas of an animation shows at one time: the pixels of a rectangle, by the numbers of
-/// their colours, and nothing outside of it.
+/// The content of the canvas at one time: the colour numbers of the pixels in a rectangle, and
+/// nothing outside of it.
 struct GIFComposite
 {
     QRect rect;
@@ -19,17 +19,17 @@ struct GIFComposite
         return pixels.constData() + qptrdiff(y - rect.top()) * rect.width();
     }
 
-    /// The same with a rectangle emptied.
+    /// A copy with a rectangle cleared.
     GIFComposite cleared(const QRect& part) const;
 };
 
-/// The rows of a composite in an area of the canvas, whatever of it the composite covers.
+/// The rows of an area of the canvas, even where the composite does not cover it.
 class GIFRows
 {
 public:
     GIFRows(const GIFComposite& composite, const QRect& area);
 
-    /// Valid up to the next call.
+    /// The pointer is valid until the next call.
     const GIFColorNumber* row(int y)
     {
         const bool covered = y >= m_covered.top() && y <= m_covered.bottom();
@@ -40,20 +40,20 @@ private:
     const GIFColorNumber* assembled(int y, bool covered);
 
     const GIFComposite& m_composite;
-    const QRect m_covered;  ///< what the composite covers of the area
-    const bool m_whole;     ///< whole rows
-    const int m_first;      ///< where they begin in those of the composite
-    const int m_indent;     ///< and in those of the area
+    const QRect m_covered;  ///< the part of the area inside the composite
+    const bool m_whole;     ///< it covers whole rows
+    const int m_first;      ///< its first column within the composite
+    const int m_indent;     ///< and within the area
     QVector<GIFColorNumber> m_room;
 };
 
-/// What leads from one composite to another.
+/// The difference between two composites.
 struct GIFChange
 {
-    QRect drawn;              ///< around the pixels that get another colour
-    QRect vanished;           ///< around those that become nothing, which a frame cannot draw
-    qint64 count = 0;         ///< of the pixels drawn
-    bool fromNothing = true;  ///< no pixel stood there before
+    QRect drawn;              ///< around the pixels that change their colour
+    QRect vanished;           ///< around those that become transparent: a frame cannot draw that
+    qint64 count = 0;         ///< number of drawn pixels
+    bool fromNothing = true;  ///< there was no pixel before
 };
 
 GIFChange changeOf(const GIFComposite& from, const GIFComposite& to);

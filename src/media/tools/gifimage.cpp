@@ -37,7 +37,7 @@ int highestIndex(const QImage& image)
     return highest;
 }
 
-/// How many colours the table of a frame needs for its pixels.
+/// The number of colours needed for the pixels of a frame.
 int colorsNeeded(const GIFImage::SubImage& frame)
 {
     return qMax(highestIndex(frame.image), frame.transparent) + 1;
@@ -70,7 +70,7 @@ bool GIFImage::load(QIODevice* device)
             return record == GIFReader::End;
         }
         images.append(frame);
-        // There are files that leave the size of the canvas to their first frame.
+        // Some files leave the canvas size to their first frame.
         if (size.isEmpty()) {
             size = QSize(frame.left, frame.top) + frame.image.size();
             size = size.boundedTo(QSize(Largest, Largest));

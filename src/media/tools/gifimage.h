@@ -12,16 +12,16 @@ namespace Zorv {
 
 /// A GIF file: a canvas, a global colour table and frames.
 ///
-/// A plain value. It reads and writes through giflib what the file holds, frame by frame, and
+/// A plain value. It reads and writes the contents of the file through giflib, frame by frame, and
 /// composes nothing.
 struct ZORV_EXPORT GIFImage
 {
-    /// How a frame leaves the canvas for the next one.
+    /// What happens to the canvas after a frame.
     enum Disposal {
         Unspecified = 0,
         Keep = 1,
-        ToBackground = 2,  ///< its rectangle becomes transparent
-        ToPrevious = 3     ///< its rectangle becomes what it was before
+        ToBackground = 2,  ///< the frame's rectangle becomes transparent
+        ToPrevious = 3     ///< the frame's rectangle is restored
     };
 
     /// One frame.
@@ -40,15 +40,15 @@ struct ZORV_EXPORT GIFImage
     QSize size;           ///< of the canvas, 1 to 65535 each way
     QVector<RGB> colors;  ///< global colour table, up to 256; may be empty
     int background = 0;
-    int loops = -1;  ///< how often it is shown again; 0 without end, -1 not told
+    int loops = -1;  ///< number of repetitions; 0 is endless, -1 unspecified
     QVector<SubImage> images;
 
-    /// Reads a file. False if it is none, or is broken; what was whole before the fault is
-    /// kept. Frames are refused that declare more pixels than the file could hold, or 2^31. Any
-    /// bytes are safe. Re-entrant.
+    /// Reads a file. False if it is not a GIF or is broken; everything before the error is kept.
+    /// Refuses frames that declare 2^31 pixels or more than the file can hold. Any input is safe.
+    /// Re-entrant.
     bool load(QIODevice* device);
 
-    /// Writes a file; tables are filled up to a power of two. False if giflib or the device
+    /// Writes a file. Colour tables are padded to a power of two. False if giflib or the device
     /// fails, or a size is out of range.
     bool save(QIODevice* device) const;
 };

@@ -4,7 +4,7 @@ namespace Zorv {
 
 namespace {
 
-// The last code is never given away: some readers stumble over a full table.
+// The last code is never assigned, because some readers fail on a full table.
 const int FullTable = 4095;
 
 const int CodeMask = 0xfff;
@@ -16,7 +16,7 @@ quint32 keyOf(int code, int index)
 
 }  // namespace
 
-/// The entry of a string that is known and one more index, or the empty one where it belongs.
+/// The entry of a known string plus one index, or the empty slot for it.
 inline GIFPacker::Slot* GIFPacker::slotOf(Slot* table, int code, int index)
 {
     const quint32 Mask = (1u << HashBits) - 1;
@@ -53,7 +53,7 @@ QByteArray GIFPacker::pack(const QVector<quint16>& pixels, int bits, int transpa
 {
     const int Clear = 1 << bits;
     const int End = Clear + 1;
-    // No pixel takes more than a code of 12 bits, with a few in between to clear the table.
+    // At most 12 bits per pixel, plus a few codes that clear the table.
     m_codes.resize(pixels.size() / 2 * 3 + pixels.size() / 1024 + 16);
     m_end = m_codes.data();
     m_pending = 0;
@@ -66,8 +66,8 @@ QByteArray GIFPacker::pack(const QVector<quint16>& pixels, int bits, int transpa
     int code = pixels.first() & Either ? transparent : pixels.first();
     for (int i = 1; i < pixels.size(); ++i) {
         const int pixel = pixels[i];
-        // What is transparent goes first: long pieces that do not change become strings that are
-        // all the same.
+        // Transparent first: then long unchanged stretches become identical strings, whatever their
+        // colours.
         const int first = pixel & Either ? transparent : pixel;
         Slot* const slot = slotOf(table, code, first);
         Slot known = *slot;

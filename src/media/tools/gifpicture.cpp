@@ -13,7 +13,7 @@ namespace {
 
 const quint16 Missing = 0x8000;
 
-/// False if the table lacks a colour.
+/// Fills the pixels. False if the table lacks a colour.
 bool fill(GIFPicture& picture, const GIFComposite& base, const GIFComposite& shown,
           const QRect& rect, const GIFTable& table)
 {
@@ -50,7 +50,7 @@ bool fill(GIFPicture& picture, const GIFComposite& base, const GIFComposite& sho
     return (all & Missing) == 0;
 }
 
-/// Marks the numbers of the pixels that change, and of those that do not.
+/// Collects the colour numbers of changed and of unchanged pixels.
 void collect(const GIFComposite& base, const GIFComposite& shown, const QRect& rect,
              QVector<bool>& changed, QVector<bool>& same)
 {
@@ -67,8 +67,9 @@ void collect(const GIFComposite& base, const GIFComposite& shown, const QRect& r
     }
 }
 
-/// A table of the colours that change, with an entry for what does not. Colours that stay are in it
-/// as far as they make it no larger, or if there is no such entry.
+/// A local table with the colours of changed pixels and a transparent entry for unchanged ones.
+/// Colours of unchanged pixels are added only as far as they fit without enlarging the table, or if
+/// there is no room for a transparent entry.
 GIFTable ownTable(const GIFComposite& base, const GIFComposite& shown, const QRect& rect,
                   const GIFAnimation& animation)
 {

@@ -8,13 +8,13 @@ namespace {
 
 const int LeastAlpha = 128;
 
-/// Gives indices to colours as they come, by a table with open addresses.
+/// Assigns indices to colours in order of appearance, with an open-addressing hash table.
 class Indexer
 {
 public:
     Indexer() { m_slots.fill(-1); }
 
-    /// The index of a colour; -1 for a new one beyond 256.
+    /// The index of a colour; -1 for a new colour after the 256th.
     int index(QRgb color)
     {
         size_t at = (color * 2654435761u) >> 22;

@@ -27,7 +27,7 @@ QVector<RGB> colorsOf(const ColorMapObject* map)
     return colors;
 }
 
-/// True if the name of an application extension is one of those that tell the loops.
+/// Whether an application extension is one of those that contain the loop count.
 bool isLoopExtension(const GifByteType* block)
 {
     const int NameLength = 11;
@@ -147,9 +147,9 @@ bool GIFReader::readExtension(GIFImage& gif, GIFImage::SubImage& frame)
 
 bool GIFReader::readPicture(GIFImage::SubImage& frame)
 {
-    // A code of 12 bits stands for less than 4096 pixels, a shorter one for less by far.
+    // A 12-bit code represents fewer than 4096 pixels; shorter codes far fewer.
     const qint64 PixelsOfByte = 4096 * 8 / 12;
-    // What giflib reads in one call.
+    // The most that giflib can read in one call.
     const qint64 MostPixels = std::numeric_limits<int>::max();
 
     if (DGifGetImageHeader(m_file) == GIF_ERROR) {
@@ -177,7 +177,8 @@ bool GIFReader::readPixels(QImage& image)
     if (m_file->Image.Interlace) {
         return readInterlaced(bits, width, height, stride);
     }
-    // One call is faster than one a line; the lines are moved to their places afterwards.
+    // One call for all lines is faster than one per line. The lines are moved to their places
+    // afterwards.
     if (DGifGetLine(m_file, bits, width * height) == GIF_ERROR) {
         return false;
     }

@@ -10,21 +10,21 @@ class QIODevice;
 
 namespace Zorv {
 
-/// Reads a GIF file frame by frame, from the bytes of a device through a buffer.
+/// Reads a GIF file frame by frame from a device, through a buffer.
 class GIFReader
 {
 public:
-    /// What stands next in the file.
+    /// What was found in the file.
     enum Record { Frame, End, Broken };
 
     explicit GIFReader(QIODevice* device);
     ~GIFReader();
 
-    /// Reads the head: size, global colours and background. False if it is no GIF file.
+    /// Reads the header: size, global colours and background. False if it is not a GIF file.
     bool readHead(GIFImage& gif);
 
-    /// Reads up to the end of the next frame. With `Frame`, `frame` is whole; what else the file
-    /// tells on the way goes into `gif`.
+    /// Reads to the end of the next frame. If the result is `Frame`, `frame` is complete. File-wide
+    /// information on the way goes into `gif`.
     Record readFrame(GIFImage& gif, GIFImage::SubImage& frame);
 
 private:

@@ -1,3 +1,11 @@
+// Chooses what happens to the canvas after a frame, so that the next frame is small.
+//
+// A frame can draw pixels but not make them transparent. Keeping the canvas is possible only if no
+// pixel must vanish. Otherwise the frame's rectangle is extended over everything that must vanish
+// and cleared afterwards. As an alternative, the canvas can be restored to its state before the
+// frame. The cost of each way is estimated from the pixels that the next frame has to draw, and the
+// cheapest is taken.
+
 #include "media/tools/gifstep_p.h"
 
 namespace Zorv {
@@ -9,7 +17,7 @@ qint64 areaOf(const QRect& rect)
     return qint64(rect.width()) * rect.height();
 }
 
-/// What a frame takes, roughly: a pixel that changes takes far more than one that does not.
+/// A rough estimate of the size of a frame: a changed pixel takes far more than an unchanged one.
 qint64 costOf(const GIFChange& change)
 {
     return 8 * change.count + areaOf(change.drawn);
@@ -36,8 +44,8 @@ GIFStep chooseStep(const GIFComposite& base, const QRect& rect, const GIFComposi
         best = {GIFImage::Keep, rect, shown, gifRect(kept, next)};
         least = costOf(kept);
     } else {
-        // Where keeping is possible, clearing draws more. Clearing is possible if it holds all
-        // that must vanish.
+        // Clear the frame's rectangle, extended to all pixels that must vanish. This is only for
+        // frames that cannot be kept, since otherwise clearing draws more.
         const QRect wide = rect | kept.vanished;
         best = {GIFImage::ToBackground, wide, shown.cleared(wide), {}};
         const GIFChange cleared = changeOf(best.base, next);
@@ -47,7 +55,8 @@ GIFStep chooseStep(const GIFComposite& base, const QRect& rect, const GIFComposi
         }
         least = costOf(cleared) + areaOf(wide) - areaOf(rect);
     }
-    // Nothing to restore is what clearing leaves, too, which more viewers do well.
+    // With an empty base, restoring is the same as clearing, and more viewers support clearing
+    // properly.
     if (least > 0 && !base.rect.isEmpty()) {
         const GIFChange restored = changeOf(base, next);
         if (restored.vanished.isEmpty() && costOf(restored) < least) {

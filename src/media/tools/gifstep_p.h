@@ -5,20 +5,20 @@
 
 namespace Zorv {
 
-/// What a frame writes, and how it leaves the canvas for the next one.
+/// The rectangle a frame writes, and its disposal.
 struct GIFStep
 {
     GIFImage::Disposal disposal = GIFImage::Keep;
-    QRect rect;         ///< that the frame writes
-    GIFComposite base;  ///< what the canvas holds when the next one is drawn
-    QRect nextRect;     ///< that the next one has to write at least
+    QRect rect;         ///< written by the frame
+    GIFComposite base;  ///< the canvas before the next frame is drawn
+    QRect nextRect;     ///< the least that the next frame must write
 };
 
-/// The rectangle that leads from `base` to `shown`; one pixel if there is no difference.
+/// The rectangle to write for a change; a single pixel if there is none.
 QRect gifRect(const GIFChange& change, const GIFComposite& shown);
 
-/// The step of the least cost that lets `next` be drawn. `base` is what the canvas holds in front
-/// of the frame that shows `shown` by writing `rect`.
+/// The cheapest step after which `next` can be drawn. `base` is the canvas before the frame that
+/// shows `shown` by writing `rect`.
 GIFStep chooseStep(const GIFComposite& base, const QRect& rect, const GIFComposite& shown,
                    const GIFComposite& next);
 

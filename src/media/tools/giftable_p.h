@@ -7,10 +7,10 @@
 
 namespace Zorv {
 
-/// The colours of an animation by number, from 1 on. Number 0 is what is transparent.
+/// The number of a colour in an animation, from 1. Number 0 means transparent.
 using GIFColorNumber = quint32;
 
-/// A colour table of up to 256 entries, with the way from the number of a colour to its index.
+/// A colour table of up to 256 entries, with a map from colour numbers to indices.
 class GIFTable
 {
 public:
@@ -19,8 +19,8 @@ public:
 
     int numberCount() const { return m_indices.size(); }
 
-    /// Adds a colour, if it is not there. False if the table is full. Number 0 is added like
-    /// any other.
+    /// Adds a colour if it is missing. False if the table is full. Number 0 is added like any
+    /// other.
     bool insert(GIFColorNumber number, QRgb color)
     {
         if (m_indices[int(number)] >= 0) {
@@ -34,10 +34,10 @@ public:
         return true;
     }
 
-    /// For each number its index, or -1.
+    /// The index of each number, or -1.
     const qint16* indices() const { return m_indices.constData(); }
 
-    /// The index of what is transparent, or -1.
+    /// The index of the transparent entry, or -1.
     int transparent() const { return m_indices[0]; }
 
     const QVector<RGB>& colors() const { return m_colors; }

@@ -107,7 +107,7 @@ void GIFWriter::beginFrame(const GIFImage::SubImage& frame, const QSize& size,
         const size_t count = EGifGCBToExtension(&control, bytes);
         check(EGifPutExtension(m_file, GRAPHICS_EXT_FUNC_CODE, int(count), bytes));
     }
-    // giflib forgets the local table of the frame before one without.
+    // giflib would leak the local table of the previous frame if this one has none.
     GifFreeMapObject(m_file->Image.ColorMap);
     m_file->Image.ColorMap = nullptr;
     const Map map = mapOf(colors);
@@ -129,7 +129,7 @@ void GIFWriter::putPixels(const QImage& image, bool interlaced)
 void GIFWriter::putLines(const QImage& image, const GIFPass& pass)
 {
     for (int y = pass.first; y < image.height() && !m_failed; y += pass.step) {
-        // giflib writes into the line that it is given.
+        // giflib modifies the line passed to it.
         QByteArray line(reinterpret_cast<const char*>(image.constScanLine(y)), image.width());
         check(EGifPutLine(m_file, reinterpret_cast<GifPixelType*>(line.data()), line.size()));
     }

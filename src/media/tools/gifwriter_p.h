@@ -12,27 +12,27 @@ namespace Zorv {
 
 struct GIFPass;
 
-/// Writes a GIF file record by record. The first failure, of giflib or of the device, is kept
-/// and ends the writing; `finish()` tells it.
+/// Writes a GIF file record by record. The first error, of giflib or of the device, stops all
+/// further writing and is reported by `finish()`.
 class GIFWriter
 {
 public:
     explicit GIFWriter(QIODevice* device);
     ~GIFWriter();
 
-    /// Writes the head. `colors` is the global table, `loops` as of `GIFImage`.
+    /// Writes the header. `colors` is the global table; `loops` is defined in `GIFImage`.
     void begin(const QSize& size, const QVector<RGB>& colors, int background, int loops);
 
-    /// Writes what tells how a frame is shown, and its place. `colors` is its local table, empty
-    /// for the global one.
+    /// Writes the control data and position of a frame. `colors` is its local table, empty for the
+    /// global one.
     void beginFrame(const GIFImage::SubImage& frame, const QSize& size, const QVector<RGB>& colors);
 
-    /// Writes the pixels of the frame; or its pixels packed already, the codes without the byte
-    /// in front of them that tells their size.
+    /// Write the pixels of the frame, either as an image or already packed. Packed codes do not
+    /// include the leading byte with the code size.
     void putPixels(const QImage& image, bool interlaced);
     void putPacked(const QByteArray& codes);
 
-    /// Writes the end and gives the result of it all.
+    /// Writes the end of the file and returns whether everything succeeded.
     bool finish();
 
 private:
@@ -49,7 +49,8 @@ private:
     bool m_failed = false;
 };
 
-/// A table as giflib takes it: filled up with black to a power of two above `minimum` - 1 entries.
+/// A colour table in giflib's form: padded with black to a power of two of at least `minimum`
+/// entries.
 QVector<RGB> paddedColors(QVector<RGB> colors, int minimum);
 
 }  // namespace Zorv

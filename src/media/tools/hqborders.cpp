@@ -7,24 +7,23 @@ namespace Zorv {
 
 namespace {
 
-// From these differences on two pixels belong to different shapes. The eye sees brightness best
-// in detail, so that more of it must change.
+// Above these differences two pixels belong to different shapes. Brightness may differ far more
+// than colour, because the eye sees most detail in it.
 const quint8 LumaThreshold = 0x30;
 const quint8 BlueThreshold = 0x07;
 const quint8 RedThreshold = 0x06;
 const quint8 AlphaThreshold = 0x30;
 
-/// How much more than a threshold two values differ.
+/// The amount by which a difference exceeds a threshold.
 quint8 excess(quint8 a, quint8 b, quint8 threshold)
 {
     const auto difference = quint8(std::max(a, b) - std::min(a, b));
     return quint8(std::max(difference, threshold) - threshold);
 }
 
-// These loops have one simple step each and work on plain pointers, so that the compiler makes
-// vectors of them.
+// Each loop has one simple step on plain pointers, so that the compiler can vectorize it.
 
-/// A pixel in a row, as it is compared.
+/// The channels of a row that are compared, from a pixel on.
 struct Planes
 {
     Planes(const HqRow& row, int first)
@@ -60,7 +59,7 @@ void markUnequal(const quint32* upper, const quint32* lower, quint8* bits, quint
     }
 }
 
-/// One of the parts that are compared: weights of red, green and blue in thousandths.
+/// Computes one compared channel; weights of red, green and blue are in thousandths.
 void project(const quint32* pixels, quint8* values, std::size_t count,
              const std::array<int, 3>& weights, int zero)
 {

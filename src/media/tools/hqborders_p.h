@@ -6,13 +6,13 @@
 
 namespace Zorv {
 
-/// A row of pixels as the eye compares them: brightness, two parts of colour, and alpha. One
-/// pixel is repeated beyond each end: pixel x stands at x + 1.
+/// A row of pixels in the form in which they are compared: brightness, two colour differences, and
+/// alpha. One pixel is repeated at each end, so pixel x is at x + 1.
 struct HqRow
 {
     explicit HqRow(int width);
 
-    /// Takes a row of pixels with multiplied alpha, with its repeated ends.
+    /// Takes a row of premultiplied pixels, with its repeated ends.
     void read(const quint32* padded);
 
     std::vector<quint32> pixels;
@@ -22,8 +22,9 @@ struct HqRow
     std::vector<quint8> alpha;
 };
 
-/// Which pixels of two rows differ. Element x tells of the square of the pixels x - 1 and x of
-/// both rows; these squares share all that is known of a pixel and its eight neighbours.
+/// Which pixels of two rows differ. Element x describes the square of the pixels x - 1 and x in
+/// both rows. Four such squares contain everything needed about a pixel and its eight neighbours,
+/// and neighbouring pixels share them.
 class HqBorders
 {
 public:
@@ -31,7 +32,7 @@ public:
 
     void compare(const HqRow& upper, const HqRow& lower);
 
-    /// The key of pixel x of the row between two pairs of rows.
+    /// The key of pixel x in the row between two pairs of rows.
     static int key(const HqBorders& above, const HqBorders& below, std::size_t x)
     {
         using namespace HqRelation;
@@ -43,7 +44,7 @@ public:
         return (up[0] >> 1 & 3) | (up[1] >> 1 & 7) << 2 | (down[0] & 7) << 5 | (down[1] & 15) << 8;
     }
 
-    /// Whether that pixel and all eight around it are equal.
+    /// Whether that pixel and its eight neighbours are all equal.
     static bool isFlat(const HqBorders& above, const HqBorders& below, std::size_t x)
     {
         const quint8* up = above.m_bits.data() + x;
@@ -53,11 +54,11 @@ public:
 
 private:
     enum Square : quint8 {
-        Top = 1,      ///< the upper left and the upper right one differ
-        Fall = 2,     ///< the upper left and the lower right one
-        Rise = 4,     ///< the lower left and the upper right one
-        Left = 8,     ///< the upper left and the lower left one
-        Unequal = 16  ///< not all four are the same
+        Top = 1,      ///< upper left and upper right differ
+        Fall = 2,     ///< upper left and lower right differ
+        Rise = 4,     ///< lower left and upper right differ
+        Left = 8,     ///< upper left and lower left differ
+        Unequal = 16  ///< the four are not all equal
     };
 
     std::vector<quint8> m_bits;

@@ -1,3 +1,10 @@
+// The tables of the hq2x, hq3x and hq4x filters.
+//
+// The table of shapes has an entry for each of the 4096 neighbourhoods of a pixel (keys). It is
+// built from a few rules, each a picture of the neighbourhood as seen from the corner A. The other
+// three corners need no rules: their keys are mirrored, so that they look like A. A second table
+// gives the mixes of each shape for every factor.
+
 #include "media/tools/hqshapes_p.h"
 
 #include <algorithm>
@@ -8,16 +15,16 @@ namespace Zorv {
 
 namespace {
 
-/// A neighbourhood A B C, D E F, G H I as seen from the corner A: '.' is like E, '#' is not,
-/// '?' may be both. '1' and '2' are not like E either; touching ones of the same figure are alike,
-/// of different figures are not.
+/// A neighbourhood A B C, D E F, G H I, seen from the corner A. '.' is like E, '#' is not, '?' may
+/// be either. '1' and '2' are not like E; touching pixels with the same digit are alike, with
+/// different digits are not.
 struct Rule
 {
     HqShape shape;
     const char picture[12];
 };
 
-// The first rule that fits holds, as it stands or mirrored on the diagonal.
+// The first rule that fits applies, directly or mirrored along the diagonal.
 // clang-format off
 const Rule Rules[] = {
     {HqShape::Flat,     "?.? .E? ???"},
@@ -44,7 +51,7 @@ const Rule Rules[] = {
 };
 // clang-format on
 
-/// Where the two pixels of each relation stand in a picture.
+/// The places of the two pixels of each relation in a picture.
 struct Place
 {
     int first;
@@ -54,7 +61,7 @@ enum { A = 0, B = 1, C = 2, D = 4, E = 5, F = 6, G = 8, H = 9, I = 10 };
 const Place Places[HqRelation::Count] = {{E, A}, {B, D}, {B, F}, {E, C}, {E, B}, {E, D},
                                          {D, H}, {E, G}, {E, F}, {E, I}, {H, F}, {E, H}};
 
-/// For each relation the one that takes its place in a mirrored neighbourhood.
+/// For each relation, the one that replaces it in a mirrored neighbourhood.
 using Mirror = std::array<HqRelation::Bit, HqRelation::Count>;
 const Mirror Diagonally = {HqRelation::EA, HqRelation::BD, HqRelation::DH, HqRelation::EG,
                            HqRelation::ED, HqRelation::EB, HqRelation::BF, HqRelation::EC,
@@ -108,7 +115,7 @@ std::array<HqQuarters, HqKeyCount> allQuarters()
     std::array<HqQuarters, HqKeyCount> result = {};
     for (int key = 0; key < HqKeyCount; ++key) {
         const int right = mirrored(key, LeftToRight);
-        // Upside down is left to right between two exchanges of B and D.
+        // Mirroring top to bottom is mirroring left to right between two exchanges of B and D.
         const int down = mirrored(mirrored(mirrored(key, Diagonally), LeftToRight), Diagonally);
         result[std::size_t(key)] = {shapeOf(key), shapeOf(right), shapeOf(down),
                                     shapeOf(mirrored(down, LeftToRight))};
@@ -116,14 +123,14 @@ std::array<HqQuarters, HqKeyCount> allQuarters()
     return result;
 }
 
-/// What is known of one shape.
+/// The drawing of one shape.
 struct Drawing
 {
     HqShape shape;
     HqMix twice;
     HqMix thrice;
     HqQuarterMixes fourfold;
-    int edgeB;  ///< parts in the middle of the edges to B and D for the factor 3
+    int edgeB;  ///< factor 3: weights in the middle of the edges to B and D
     int edgeD;
 };
 
@@ -165,7 +172,7 @@ int edgePart(HqShape shape)
     return int(shape) % 2 == 0 ? drawing.edgeB : drawing.edgeD;
 }
 
-/// Whether a round corner beside this one leaves the edge between them to E.
+/// Whether, next to a round corner, this shape leaves the edge between them to E.
 bool closesEdge(HqShape shape)
 {
     const HqShape plain = HqShape(int(shape) & ~1);

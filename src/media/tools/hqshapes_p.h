@@ -6,8 +6,9 @@
 
 namespace Zorv {
 
-/// Which pixels around a pixel E differ in colour; a key is a set of these bits. The neighbours
-/// are named in reading order, A B C, D E F, G H I.
+/// The relations between a pixel E and its neighbours. A key is a set of these bits; a set bit
+/// means that the two pixels differ in colour. The neighbours are named in reading order: A B C, D
+/// E F, G H I.
 namespace HqRelation {
 
 enum Bit { EA, BD, BF, EC, EB, ED, DH, EG, EF, EI, HF, EH, Count };
@@ -16,20 +17,20 @@ enum Bit { EA, BD, BF, EC, EB, ED, DH, EG, EF, EI, HF, EH, Count };
 
 constexpr int HqKeyCount = 1 << HqRelation::Count;
 
-/// How the quarter of a pixel at its corner towards A is drawn. The odd value behind each shape is
-/// the same one mirrored on the diagonal, with B and D exchanged.
+/// How the quarter of a pixel next to A is drawn. The odd value after each shape is its mirror
+/// image along the diagonal, with B and D exchanged.
 enum class HqShape : quint8 {
     Flat = 0,       ///< no border
     Wall = 2,       ///< a border to D
     Nook = 4,       ///< a border to D and A
-    Slope = 6,      ///< a border to D and A that falls slowly
+    Slope = 6,      ///< a border to D and A with a gentle slope
     Diagonal = 8,   ///< borders to B and D, but not to A
     Alone = 10,     ///< borders all around
-    Round = 12,     ///< a corner of another colour that is cut round
-    Soft = 14,      ///< the same, less
-    Faint = 16,     ///< the same, hardly
-    FaintTip = 18,  ///< the same, at the end of a line
-    Cut = 20,       ///< the same, more, along B
+    Round = 12,     ///< a rounded corner of another colour
+    Soft = 14,      ///< rounded less
+    Faint = 16,     ///< hardly rounded
+    FaintTip = 18,  ///< hardly rounded, at the end of a line
+    Cut = 20,       ///< rounded more, along B
     Count = 22
 };
 
@@ -39,8 +40,8 @@ using HqQuarters = std::array<HqShape, 4>;
 /// The shapes for all keys.
 const std::array<HqQuarters, HqKeyCount>& hqQuarters();
 
-/// Parts of sixteen of E and of three neighbours. Towards the corner A these are A, B and D,
-/// towards any other those that lie the same way.
+/// The weights of E and three neighbours, in sixteenths. For the corner A the neighbours are A, B
+/// and D; for other corners the corresponding ones.
 struct HqMix
 {
     quint8 own;
@@ -49,15 +50,15 @@ struct HqMix
     quint8 horizontal;
 };
 
-/// The mixes of a quarter for a factor of 2, 3 or 4, row by row from the corner A of the pixel:
-/// one for the factors 2 and 3, four for 4.
+/// The mixes of a quarter for a factor of 2, 3 or 4, row by row from the corner A. Factors 2 and 3
+/// use one, factor 4 uses four.
 using HqQuarterMixes = std::array<HqMix, 4>;
 
 /// The mixes of all shapes.
 std::array<HqQuarterMixes, std::size_t(HqShape::Count)> hqMixes(int factor);
 
-/// The part of B in the pixel in the middle of the upper edge for the factor 3, of sixteen, by
-/// the shapes to both sides.
+/// For factor 3: the weight of B, in sixteenths, in the pixel in the middle of the upper edge,
+/// given the shapes on both sides.
 int hqEdgePart(HqShape left, HqShape right);
 
 /// A shape with B and D exchanged.

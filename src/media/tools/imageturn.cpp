@@ -1,3 +1,12 @@
+// Rotation of an image by any angle.
+//
+// A row of the result is a straight line through the source, so a fixed-point start and step are
+// enough for all its pixels. The part of the row that hits the source is computed beforehand by
+// clipping in x and y; the rest is filled. The inner loops therefore need no bounds checks.
+//
+// For bilinear mixing the source gets a border of one pixel in the fill colour. All four pixels
+// then always exist, and the edges blend with the fill.
+
 #include "media/tools/imageturn_p.h"
 
 #include "media/tools/mixture_p.h"
@@ -30,7 +39,7 @@ Point operator+(const Point& a, const Point& b)
     return {a.x + b.x, a.y + b.y};
 }
 
-/// The upper left one of the four pixels around a corner.
+/// The upper left one of the four pixels around a point.
 const quint32* upperLeft(const Raster<const quint32>& from, const Point& at)
 {
     return from.row(int(at.y >> PointBits)) + (at.x >> PointBits);
@@ -41,7 +50,7 @@ const quint32* below(const quint32* pixel, const Raster<const quint32>& from)
     return reinterpret_cast<const quint32*>(reinterpret_cast<const uchar*>(pixel) + from.stride);
 }
 
-/// Four pixels and the weights of the right and of the lower ones, of 256.
+/// Four pixels, and the weights of the right and of the lower ones, in 256ths.
 struct Square
 {
     Square(const Raster<const quint32>& from, const Point& at)
@@ -88,13 +97,13 @@ quint32 mixed(const Square& square)
     if (first == square.upper[1] && first == square.lower[0] && first == square.lower[1]) {
         return first;
     }
-    // Only where all that counts is opaque the mixture is.
+    // The result is opaque only if every pixel with a weight is. Otherwise mix again with alpha.
     const quint32 result = mixedOpaque(square);
     return result >> 24 == 255 ? result : mixedWithAlpha(square);
 }
 
 #ifdef __SSE2__
-/// Mixes two pixels at a time along a path. Returns the pixel behind them, and moves the path.
+/// Mixes two pixels at a time along a path. Returns the pixel after them and advances the path.
 quint32* mixPairs(const Raster<const quint32>& from, quint32* pixel, quint32* end, Path& path)
 {
     const __m128i zero = _mm_setzero_si128();
@@ -104,7 +113,8 @@ quint32* mixPairs(const Raster<const quint32>& from, quint32* pixel, quint32* en
         return _mm_unpacklo_epi32(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(first)),
                                   _mm_loadl_epi64(reinterpret_cast<const __m128i*>(second)));
     };
-    // Sums below 2 to the power of 16 come out right although the differences may be negative.
+    // The difference may be negative, but the sum is below 2^16, so 16-bit wrap-around still gives
+    // the right result.
     const auto mix = [half](__m128i first, __m128i second, __m128i part) {
         const __m128i change = _mm_mullo_epi16(_mm_sub_epi16(second, first), part);
         const __m128i sum = _mm_add_epi16(_mm_add_epi16(_mm_slli_epi16(first, 8), half), change);
@@ -150,7 +160,7 @@ quint32* mixPairs(const Raster<const quint32>&, quint32* pixel, quint32*, Path&)
 }
 #endif
 
-/// The image with comparable pixels and a border of one pixel of a colour.
+/// The image with comparable pixels and a border of one pixel.
 QImage bordered(const QImage& image, quint32 fill)
 {
     QImage result(image.size() + QSize(2, 2), image.format());
@@ -177,8 +187,8 @@ QImage bordered(const QImage& image, quint32 fill)
     return result;
 }
 
-/// An image for the result. Corners that are not opaque make alpha of the unused byte, which is
-/// that of an opaque pixel in each comparable image.
+/// An image for the result. If the fill is not opaque, the unused byte of `Format_RGB32` becomes
+/// alpha; comparable images already have 255 in it.
 QImage resultOf(const QImage& image, quint32 fill, const QSize& size)
 {
     QImage result = image.isNull() ? QImage() : imageLike(image, size);
@@ -194,7 +204,7 @@ ImageTurn::ImageTurn(const QSize& size, double degrees)
     : m_size(size), m_cosine(std::cos(qDegreesToRadians(degrees))),
       m_sine(std::sin(qDegreesToRadians(degrees)))
 {
-    // A corner that only just touches a pixel needs none.
+    // A corner that barely touches a pixel does not need it.
     const auto side = [](double a, double b) {
         return std::max(int(std::ceil(std::abs(a) + std::abs(b) - 0.001)), 1);
     };
@@ -216,7 +226,7 @@ ImageTurn::Path ImageTurn::path(int row, const Source& source, const QSize& to) 
             point(m_cosine * scale, -m_sine * scale)};
 }
 
-/// Keeps the steps of a span at which a coordinate is from 0 to below a limit.
+/// Limits a span to the steps at which a coordinate is from 0 to below a limit.
 void ImageTurn::clip(Span& span, qint64 start, qint64 step, qint64 limit)
 {
     if (step < 0) {
@@ -280,7 +290,8 @@ QImage ImageTurn::bilinear(const QImage& image, quint32 fill, const QSize& size)
         return {};
     }
     const Raster<const quint32> from(source);
-    // The four pixels lie around a corner, half a pixel off the centres; the border adds one more.
+    // The four pixels surround a corner, half a pixel off the centres; the border adds one more
+    // pixel.
     const Source area = {image.size(), image.size() + QSize(1, 1), 0.5};
     draw<quint32>(area, result, fill, [from](quint32* pixel, quint32* end, Path path) {
         pixel = mixPairs(from, pixel, end, path);

@@ -5,21 +5,21 @@
 
 namespace Zorv {
 
-/// A turn of images about their centres, clockwise in degrees.
+/// A rotation of images about their centres, in degrees clockwise.
 ///
-/// The images may be larger or smaller than the size that it was made for: the whole of the source
-/// always covers the same part of the result. With a `fill` that is not opaque, `Format_RGB32`
-/// becomes `Format_ARGB32`.
+/// Images may be larger or smaller than the size given to the constructor: the whole source always
+/// covers the same part of the result. If `fill` is not opaque, `Format_RGB32` becomes
+/// `Format_ARGB32`.
 class ImageTurn
 {
 public:
-    /// A point of the source, in parts of 2 to the power of 32 of a pixel.
+    /// A point in the source, as 32.32 fixed-point pixels.
     struct Point
     {
         qint64 x;
         qint64 y;
     };
-    /// The way through the source that a row of the result takes.
+    /// The straight line through the source that a row of the result follows.
     struct Path
     {
         Point start;
@@ -28,15 +28,15 @@ public:
 
     ImageTurn(const QSize& size, double degrees);
 
-    /// The size that an image of the original size needs.
+    /// The result size for an image of the size given to the constructor.
     QSize resultSize() const { return m_resultSize; }
 
-    /// Each pixel of the result is the one of a working image that its centre lies in, which is
-    /// comparable if it has no alpha. `fill` stands where there is none. Null if the size is not
-    /// possible or memory is short.
+    /// Takes, for each result pixel, the source pixel that contains its centre. The source is a
+    /// working image, comparable if it has no alpha. `fill` is used outside the source. Null if the
+    /// size is not possible or memory is short.
     QImage nearest(const QImage& image, quint32 fill, const QSize& size) const;
 
-    /// The same with a mixture of the four pixels around, of an image with true colours.
+    /// The same with a mixture of the four surrounding pixels, for true-colour images.
     QImage bilinear(const QImage& image, quint32 fill, const QSize& size) const;
 
 private:
@@ -46,7 +46,8 @@ private:
         int end;
     };
 
-    /// An image, the area from which points are taken, and how far that begins before it.
+    /// The size of an image, the area from which points are sampled, and how far that area begins
+    /// before the image.
     struct Source
     {
         QSize size;

@@ -15,7 +15,7 @@ namespace {
 
 using ColorTable = std::array<QRgb, 256>;
 
-/// The colours of all indices, 0 for those that show nothing.
+/// The colours of all indices; 0 for invisible ones.
 ColorTable colorTableOf(const QImage& indexed)
 {
     ColorTable colors = {};
@@ -26,7 +26,7 @@ ColorTable colorTableOf(const QImage& indexed)
     return colors;
 }
 
-/// The entry of a colour table that stands best for a colour.
+/// Finds the entry of a colour table for a colour.
 class NearestEntry
 {
 public:

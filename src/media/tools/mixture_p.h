@@ -6,7 +6,7 @@
 
 namespace Zorv {
 
-/// A colour whose parts are multiplied by its alpha, so that what is transparent adds nothing.
+/// A colour premultiplied by its alpha, so that transparent pixels contribute nothing.
 struct Mixture
 {
     float b, g, r, a;

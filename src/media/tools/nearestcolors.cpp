@@ -1,3 +1,14 @@
+// Nearest-colour search with a grid of cells.
+//
+// A query looks up the cell of its colour and compares only that cell's candidates. The candidates
+// are computed at the first query of a cell. An entry is dropped if even its nearest point in the
+// cell is farther than the farthest point of some other entry: it can then never win. These bounds
+// are sums over the channels, so they are computed once per channel and range of values, and shared
+// by all cells.
+//
+// When the lists have grown too long in total, all are discarded and rebuilt on demand, which
+// limits the memory.
+
 #include "media/tools/nearestcolors_p.h"
 
 #include <algorithm>
@@ -7,8 +18,8 @@ namespace Zorv {
 
 namespace {
 
-// Cells of opaque colours, which are most, are 8 values wide in red, green and blue; those of
-// others 16, and 32 in alpha.
+// Cells of opaque colours, which are the most frequent, are 8 values wide in red, green and blue.
+// Other cells are 16 wide, and 32 in alpha.
 const int OpaqueBits = 5;
 const int TranslucentBits = 4;
 const int AlphaBits = 3;
@@ -25,7 +36,7 @@ quint32 cellOf(quint32 color)
                           (color >> 4 & 0xF));
 }
 
-// The numbers of a cell's ranges of values; opaque cells have the first ones.
+// The range numbers of a cell. Opaque cells have the first ones.
 std::array<int, 4> rangesOf(quint32 cell)
 {
     const int at = int(cell);
@@ -103,7 +114,7 @@ quint8 NearestColors::search(quint32 color)
     const int a = int(color >> 24);
     const Entry* head = &m_candidates[at];
     const Entry* last = head + head->index;
-    // Distance and index are compared as one number, which needs no jump.
+    // Distance and index are compared as one number, which needs no branch.
     quint32 best = ~0U;
     for (const Entry* entry = head; entry++ != last;) {
         const quint32 distance = squared(entry->channel[0] - r) + squared(entry->channel[1] - g) +
@@ -113,8 +124,8 @@ quint8 NearestColors::search(quint32 color)
     return quint8(best);
 }
 
-// An entry that is farther from the near side of the cell than another is from its far side
-// cannot be the nearest to any colour in it.
+// An entry whose nearest distance to the cell exceeds another entry's farthest distance cannot be
+// the nearest to any colour in it.
 quint32 NearestColors::fillCell(quint32 cell)
 {
     const std::array<int, 4> numbers = rangesOf(cell);

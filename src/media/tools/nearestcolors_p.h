@@ -10,17 +10,17 @@
 
 namespace Zorv {
 
-/// Finds the nearest of up to 256 colours for many.
+/// Finds the nearest of up to 256 colours, optimised for many queries.
 ///
-/// The distance is the squared one over red, green, blue and alpha; the lowest index wins among
-/// equals. A colour of alpha 0 takes the first entry of the lowest alpha, whatever its colour.
+/// The distance is the squared distance over red, green, blue and alpha; among equals the lowest
+/// index wins. A colour of alpha 0 takes the first entry of the lowest alpha, whatever its colour.
 ///
-/// Colour space is cut into cells; those that are asked for keep the entries that may be the
-/// nearest to some colour in them.
+/// Colour space is divided into cells. Each cell that is queried keeps a list of the entries that
+/// can be nearest to any colour in it.
 class NearestColors
 {
 public:
-    /// `palette` has 1 to 256 entries; more are left aside.
+    /// `palette` has 1 to 256 entries; further ones are ignored.
     explicit NearestColors(const QVector<RGBA>& palette);
 
     /// `color` is a `QRgb`.
@@ -38,8 +38,8 @@ private:
     static constexpr int FoundBits = 11;
     using Row = std::array<quint16, Size>;
 
-    /// The squared distances of the entries, in one channel, from the near and from the far end
-    /// of a range of its values.
+    /// For one channel and a range of its values: the squared distances of all entries to the
+    /// nearest and to the farthest value.
     struct Range
     {
         Row nearest;
@@ -52,7 +52,7 @@ private:
         quint8 index;
     };
 
-    /// An entry, or, in front of those of a cell, their number.
+    /// An entry; or the head of a cell's list, whose index is the number of entries.
     struct Entry
     {
         qint16 channel[4];
@@ -63,12 +63,12 @@ private:
     const Range& range(size_t channel, int number);
     quint32 fillCell(quint32 cell);
 
-    std::vector<Entry> m_entries;                                    ///< the different colours
-    std::array<std::array<std::unique_ptr<Range>, 48>, 4> m_ranges;  ///< those that were needed
-    std::vector<quint32> m_cells;     ///< the place of each one's candidates, 0 before it is filled
-    std::vector<Entry> m_candidates;  ///< for each cell a head and the entries
+    std::vector<Entry> m_entries;                                    ///< without duplicates
+    std::array<std::array<std::unique_ptr<Range>, 48>, 4> m_ranges;  ///< created on demand
+    std::vector<quint32> m_cells;     ///< start of each cell's list, 0 before it is filled
+    std::vector<Entry> m_candidates;  ///< the lists: a head and the entries
     quint8 m_transparent = 0;
-    std::array<Found, 1 << FoundBits> m_found;  ///< of the last colours that were asked for
+    std::array<Found, 1 << FoundBits> m_found;  ///< a cache of recent results
 };
 
 }  // namespace Zorv

@@ -9,7 +9,7 @@ namespace {
 
 const int ChildCount = 16;
 
-// One bit of each byte of the key, the highest ones at depth 0.
+// The child number: one bit of each byte of the key, from the highest at depth 0.
 int childOf(quint32 key, int depth)
 {
     return int(((key >> (7 - depth) & 0x01010101U) * 0x01020408U) >> 24 & 15);

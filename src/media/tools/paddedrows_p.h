@@ -8,9 +8,9 @@
 
 namespace Zorv {
 
-/// A walk over the rows of an image, each with the one above and the one below. The pixels of the
-/// border are repeated outside of it, so that positions from -1 to `width()` can be read.
-/// `Adapt` is called for each pixel that is read.
+/// Iterates over the rows of an image, each with the row above and below. Border pixels are
+/// repeated outside, so positions from -1 to `width()` can be read. `Adapt` is applied to each
+/// pixel that is read.
 template <class Pixel, class Adapt>
 class PaddedRows
 {

@@ -11,9 +11,9 @@ namespace Zorv {
 
 namespace {
 
-constexpr double Grey = 0.02;  // chroma below which nobody sees a hue
+constexpr double Grey = 0.02;  // chroma below which no hue is visible
 
-// What is compared: the second only where the first is the same.
+// The sort key; the second value breaks ties of the first.
 using Place = std::pair<double, double>;
 
 Place placeOf(RGBA color, PaletteKey key)

@@ -9,28 +9,28 @@
 
 namespace Zorv {
 
-/// Another order of the 256 entries of a palette: for each slot the old slot of the entry that
-/// stands there then. The picture stays if every pixel goes along: `inverse(order)[pixel]`.
+/// An order of the 256 entries of a palette: for each new slot, the old slot of its entry. To keep
+/// the picture the same, map its pixels too: `inverse(order)[pixel]`.
 using PaletteOrder = std::array<quint8, 256>;
 
-/// All entries where they are.
+/// The order that changes nothing.
 ZORV_EXPORT PaletteOrder sameOrder();
 
-/// True if each old slot is there once.
+/// True if each old slot occurs exactly once.
 ZORV_EXPORT bool isOrder(const PaletteOrder& order);
 
-/// For each old slot the new one. `order` has each once.
+/// For each old slot, its new slot. `order` must contain each slot once.
 ZORV_EXPORT PaletteOrder inverse(const PaletteOrder& order);
 
-/// Puts 256 entries in an order.
+/// Applies an order to 256 entries.
 ZORV_EXPORT void reorder(RGBA* palette, const PaletteOrder& order);
 
-/// The order in which entry `from` has been moved to slot `to`, those between moving up by one.
+/// The order that moves entry `from` to slot `to`; the entries between shift by one.
 ZORV_EXPORT PaletteOrder movedOrder(quint8 from, quint8 to);
 
-/// What entries are sorted by. All but the channels are those of OKLCh.
+/// The sort key. All but the channels are those of OKLCh.
 enum class PaletteKey {
-    Hue,        ///< greys first, then 24 steps of hue from red on, each from dark to light
+    Hue,        ///< greys, then 24 steps of hue from red on, each from dark to light
     Lightness,  ///< from dark to light
     Chroma,     ///< from grey to colourful
     Red,
@@ -41,16 +41,16 @@ enum class PaletteKey {
 
 enum class PaletteSort {
     Plain = 0,
-    Descending = 1,       ///< the other way round; equal entries still keep their order
-    MovesFirst = 2,       ///< entry 0 is sorted, too
-    MovesTransparent = 4  ///< entries of alpha 0 are sorted, too
+    Descending = 1,       ///< reverse; equal entries still keep their order
+    MovesFirst = 2,       ///< also sorts entry 0
+    MovesTransparent = 4  ///< also sorts entries of alpha 0
 };
 Q_DECLARE_FLAGS(PaletteSorting, PaletteSort)
 Q_DECLARE_OPERATORS_FOR_FLAGS(PaletteSorting)
 
-/// The order that sorts the entries of a palette among the slots that they have now. Equal ones
-/// keep their order. Entry 0 and transparent ones keep their places unless they are asked for. A
-/// selection is a pointer to 256 `bool`; null means all, and what is not selected stays.
+/// The order that sorts the entries of a palette within the slots they have now. The sort is
+/// stable. Entry 0 and transparent entries stay in place unless `sorting` includes them. A
+/// selection is a pointer to 256 `bool`; null means all. Unselected entries stay in place.
 ZORV_EXPORT PaletteOrder sortedOrder(const RGBA* palette, PaletteKey key,
                                      PaletteSorting sorting = PaletteSort::Plain,
                                      const bool* selection = nullptr);

@@ -7,11 +7,11 @@
 
 namespace Zorv {
 
-/// The largest width and height of an image that the tools make.
+/// The largest width and height of an image created by the tools.
 constexpr int MaxImageSide = 32767;
 
-/// The pixels of an image, row by row; the image outlives it. `Pixel` is `quint8` for an indexed
-/// image and `quint32` for the others, const for reading.
+/// Access to the pixels of an image by row; the image must outlive it. `Pixel` is `quint8` for an
+/// indexed image and `quint32` for others, const for reading.
 template <class Pixel>
 struct Raster
 {
@@ -38,8 +38,8 @@ struct Raster
     Pixel* bits;
 };
 
-/// The image in one of the three forms that the tools work on: `Format_Indexed8`, `Format_RGB32`
-/// and `Format_ARGB32`.
+/// The image in one of the three formats that the tools work on: `Format_Indexed8`, `Format_RGB32`
+/// or `Format_ARGB32`.
 QImage workingImage(const QImage& image);
 
 /// A pixel of `Format_RGB32` with 255 in its unused byte.
@@ -48,13 +48,13 @@ inline quint32 comparableOpaque(quint32 pixel)
     return pixel | 0xFF000000U;
 }
 
-/// A pixel of `Format_ARGB32` without the colour of what is transparent.
+/// A pixel of `Format_ARGB32`; a fully transparent one loses its colour.
 inline quint32 comparableClear(quint32 pixel)
 {
     return pixel < 0x01000000U ? 0 : pixel;
 }
 
-/// A working image in which pixels that look the same are the same number.
+/// A working image in which pixels that look the same have the same value.
 QImage comparableImage(const QImage& image);
 
 /// Whether both sides are from 1 to `MaxImageSide`.
@@ -69,11 +69,11 @@ inline bool isIndexed(const QImage& image)
     return image.format() == QImage::Format_Indexed8;
 }
 
-/// An image with the form, the colour table and the resolution of a working image, its pixels
-/// not set. Null if the size is not possible or memory is short.
+/// An image with the format, colour table and resolution of a working image; its pixels are
+/// uninitialised. Null if the size is not possible or memory is short.
 QImage imageLike(const QImage& model, const QSize& size);
 
-/// Calls `function` with rasters of the pixels of two working images of one form.
+/// Calls `function` with rasters of two working images of the same format.
 template <class Function>
 void withRasters(const QImage& from, QImage& to, Function function)
 {

@@ -12,14 +12,16 @@ namespace Zorv {
 
 namespace {
 
-/// Which pixels of a row or a column make one of the result: `weights.size()` from `first` on.
+/// The source pixels of one result pixel in a row or column: `weights.size()` pixels, starting at
+/// `first`.
 struct Taps
 {
     int first;
     std::vector<float> weights;
 };
 
-/// A triangle over each position, two pixels wide, or two pixels of the result where it shrinks.
+/// The weights are a triangle around each position: two source pixels wide, or two result pixels
+/// when shrinking.
 std::vector<Taps> tapsOf(int from, int to)
 {
     std::vector<Taps> result;

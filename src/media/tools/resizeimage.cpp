@@ -15,7 +15,7 @@ namespace Zorv {
 
 namespace {
 
-/// For each of `to` pixels the one of `from` that its centre lies in.
+/// For each of `to` pixels, the one of `from` pixels that contains its centre.
 std::vector<int> nearestPositions(int from, int to)
 {
     std::vector<int> positions;
@@ -26,7 +26,7 @@ std::vector<int> nearestPositions(int from, int to)
     return positions;
 }
 
-/// Takes the pixels at given positions from many rows.
+/// Copies the pixels at fixed positions, for many rows.
 template <class Pixel>
 class Gather
 {
@@ -75,7 +75,7 @@ QImage resizeNearest(const QImage& image, const QSize& size)
     return result;
 }
 
-/// An indexed image in the size of `colors` and as near to them as can be.
+/// The indexed image resized and matched to `colors` as closely as possible.
 QImage snapped(const QImage& indexed, const QImage& colors)
 {
     QImage result = colors.isNull() ? QImage() : resizeNearest(indexed, colors.size());
@@ -85,8 +85,8 @@ QImage snapped(const QImage& indexed, const QImage& colors)
     return result;
 }
 
-/// Enlarges until the size is reached in one direction, as far as the sides stay possible: by 2 or
-/// 3 if that is enough, else by `most` and again.
+/// Enlarges repeatedly until one side reaches the size, as far as the sides stay possible: by 2 or
+/// 3 if that suffices, otherwise by `most` each time.
 template <class Once>
 QImage enlarged(QImage image, const QSize& size, int most, Once once)
 {
@@ -103,7 +103,7 @@ QImage enlarged(QImage image, const QSize& size, int most, Once once)
     return image;
 }
 
-/// Mixes colours of an image that is not indexed.
+/// Resizes a true-colour image by mixing colours.
 QImage resizeMixing(const QImage& image, const QSize& size, ImageResizeFilter filter)
 {
     const QImage work = comparableImage(image);

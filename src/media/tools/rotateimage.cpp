@@ -15,7 +15,7 @@ namespace Zorv {
 
 namespace {
 
-/// The image enlarged by the largest one of 4, 2 and 1, not above `most`, that is possible.
+/// The image enlarged by the largest possible factor of 4, 2 and 1, at most `most`.
 QImage enlarged(const QImage& image, int most, QImage (*scale)(const QImage&, int))
 {
     int factor = most;
@@ -25,13 +25,13 @@ QImage enlarged(const QImage& image, int most, QImage (*scale)(const QImage&, in
     return factor > 1 ? scale(image, factor) : image;
 }
 
-/// Turns true colours, mixing them.
+/// Rotates a true-colour image by mixing colours.
 QImage turnMixing(const QImage& image, const ImageTurn& turn, QRgb fill, ImageResizeFilter filter)
 {
     if (filter != ImageResizeFilter::Hq) {
         return turn.bilinear(image, fill, turn.resultSize());
     }
-    // Twice as large, so that the smooth borders are still smooth when they are made smaller.
+    // Drawn at double size, so that smooth borders stay smooth when reduced.
     const QSize size = turn.resultSize();
     const QSize doubled = isPossibleSize(size * 2) ? size * 2 : size;
     const QImage large = turn.bilinear(enlarged(image, 2, scaleHq), fill, doubled);
@@ -48,7 +48,7 @@ QImage turned(const QImage& work, const ImageTurn& turn, unsigned int fill,
     if (mixes && !isIndexed(work)) {
         return turnMixing(work, turn, fill, filter);
     }
-    // The colour of what is transparent is kept where nothing is mixed.
+    // Without mixing, transparent pixels keep their colour.
     const QImage source = work.hasAlphaChannel() ? work : comparableImage(work);
     QImage result = turn.nearest(source, fill, turn.resultSize());
     if (mixes && work.colorCount() > 0 && !result.isNull()) {

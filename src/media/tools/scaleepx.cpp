@@ -17,9 +17,9 @@ namespace {
 //     D E F
 //     G H I
 //
-// Selections stand without branches, so that the compiler makes vectors of them.
+// Choices are made without branches, so that the compiler can vectorize the loops.
 
-/// Does the greater part of a row. The number of pixels that are done.
+/// Doubles as much of a row as vectors can, and returns the number of pixels done.
 template <class Pixel>
 int doubleMost(const Pixel*, const Pixel*, const Pixel*, int, Pixel*, Pixel*)
 {
@@ -27,7 +27,7 @@ int doubleMost(const Pixel*, const Pixel*, const Pixel*, int, Pixel*, Pixel*)
 }
 
 #ifdef __SSE2__
-// Of wide pixels a vector holds but four, and it pays to ask first whether all four are flat.
+// A vector holds only four 32-bit pixels, so it pays to check first whether all four are flat.
 int doubleMost(const quint32* above, const quint32* own, const quint32* below, int count,
                quint32* top, quint32* bottom)
 {
@@ -52,7 +52,7 @@ int doubleMost(const quint32* above, const quint32* own, const quint32* below, i
             store(bottom + 2 * x, E, E);
             continue;
         }
-        // The other pixel where it is like its neighbour and there is an edge, else E.
+        // The other pixel if it equals its neighbour at an edge, otherwise E.
         const auto chosen = [flat, E](__m128i other, __m128i neighbour) {
             const __m128i use = _mm_andnot_si128(flat, _mm_cmpeq_epi32(other, neighbour));
             return _mm_xor_si128(E, _mm_and_si128(use, _mm_xor_si128(E, other)));

@@ -15,7 +15,7 @@ namespace Zorv {
 
 namespace {
 
-/// A walk over the rows of an image, which keeps three of them with the borders between them.
+/// Iterates over the rows of an image and keeps three of them, with the borders between them.
 class HqRows
 {
 public:
@@ -39,7 +39,7 @@ public:
     int y() const { return m_y; }
     const HqRow& row(int offset) const { return m_rows[slot(m_y + offset)]; }
 
-    /// The borders to the row above and to the one below.
+    /// The borders to the rows above and below.
     const HqBorders& above() const { return m_borders[slot(m_y - 1)]; }
     const HqBorders& below() const { return m_borders[slot(m_y)]; }
 
@@ -79,11 +79,11 @@ WidePixel mixed(const HqMix& mix, WidePixel own, WidePixel corner, WidePixel ver
            WideMask;
 }
 
-// As the method is published, for pixels that are opaque. Alpha is a fourth part that is compared
-// and mixed, and the others are multiplied by it, so that the colour of what is transparent
-// neither makes borders nor shows.
+// For opaque pixels this is the published method. Alpha is compared and mixed as a fourth channel,
+// and the others are premultiplied by it. So the invisible colour of transparent pixels neither
+// creates borders nor shows.
 
-/// Draws the pixels of one row, `Factor` by `Factor` for each. Colours are multiplied by alpha.
+/// Draws `Factor` by `Factor` pixels for each pixel of a row. Colours are premultiplied.
 template <int Factor>
 class Painter
 {
@@ -148,7 +148,8 @@ private:
     quint8 m_edges[Shapes][Shapes];
 };
 
-/// Divides by alpha what was made of a row. Pixels that only repeat theirs are exact.
+/// Converts a finished row back from premultiplied colours. A pixel that merely repeats its source
+/// is copied from there and stays exact.
 template <int Factor>
 void unpremultiply(const quint32* own, const HqRow& premultiplied, quint32* row, int width)
 {

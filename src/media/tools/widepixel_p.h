@@ -4,12 +4,12 @@
 
 namespace Zorv {
 
-/// The four parts of a pixel, 16 bits each, so that one multiplication weights all of them.
+/// The four channels of a pixel in 16 bits each, so that one multiplication weights all of them.
 using WidePixel = quint64;
 
 constexpr WidePixel WideMask = Q_UINT64_C(0x00FF00FF00FF00FF);
 
-/// One half of 256 in each part, to round a sum.
+/// 128, half of 256, in each channel, to round a sum.
 constexpr WidePixel WideHalf = Q_UINT64_C(0x0080008000800080);
 
 constexpr WidePixel widened(quint32 pixel)
@@ -17,7 +17,7 @@ constexpr WidePixel widened(quint32 pixel)
     return (pixel | WidePixel(pixel) << 24) & WideMask;
 }
 
-/// The reverse, of parts that are below 256.
+/// The reverse, for channels below 256.
 constexpr quint32 narrowed(WidePixel pixel)
 {
     return quint32(pixel | pixel >> 24);
