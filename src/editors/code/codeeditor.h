@@ -143,9 +143,9 @@ public:
 
     /// With a finder, an accepted word replaces the whole word at the cursor: it gets the right
     /// case, and nothing of the old word remains. Where the finder knows no word, the typed part is
-    /// replaced. The keys that end a word change too: a blank ends any word, Return ends a word
-    /// that is already complete. Both close the popup and go to the text. An empty finder restores
-    /// appending. The finder is called while the popup is open, and must not edit.
+    /// replaced. With a finder, a blank also ends any word, and Return ends a word that is already
+    /// complete: both close the popup and go to the text. An empty finder restores appending. The
+    /// finder is called while the popup is open, and must not edit.
     void setWordFinder(const WordFinder& finder);
 
     /// Opens the popup with words for the cursor's position, whatever was typed before. The model

@@ -85,8 +85,8 @@ public:
     /// Shows a palette of the collection; null for none.
     void setCurrentPalette(Palette* palette);
 
-    /// Imports colours: into the palette with an identifier that the host is asked for, or as a new
-    /// palette at the end.
+    /// Imports colours. Asks the host for an identifier, and gives the colours to the palette with
+    /// it, or to a new palette at the end.
     void setPalette(const RGBA (&colors)[256]);
 
     /// Shows colours that belong to no palette. They can be picked but not edited.

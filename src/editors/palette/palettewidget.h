@@ -25,8 +25,8 @@ class PaletteWidgetPrivate;
 /// left click, and Ctrl+Space toggles the slot. Return is a double click. Alt with an arrow moves
 /// the colour. Ctrl+A selects all.
 ///
-/// The grid has an undo history of eleven colour changes, made through `palette()` or by the user.
-/// The history belongs to the shown palette: call `flatten()` after loading another one.
+/// The grid has an undo history of the last eleven colour changes, made through `palette()` or by
+/// the user. The history belongs to the shown palette: call `flatten()` after loading another one.
 ///
 /// Mouse moves and releases are passed on to the parent. Slots connected to the signals may delete
 /// the widget. Main thread only.
