@@ -27,6 +27,10 @@ QPoint placeOf(const QMouseEvent* event)
 
 }  // namespace
 
+// A left press stores its slot in `pressed`. Moving to another slot starts a drag, if colours can
+// be moved. A release after a drag moves the colour; any other release is a click. After a drag or
+// a cancel, `isCancelled` stays set until all buttons in `held` are up: their releases are no
+// clicks.
 void PaletteWidgetPrivate::press(const QMouseEvent* event)
 {
     if (!held) {
@@ -82,10 +86,6 @@ void PaletteWidgetPrivate::showTip(const QPoint& place, const QPoint& global) co
     }
 }
 
-// A left press stores its slot in `pressed`. Moving to another slot starts a drag, if colours can
-// be moved. A release after a drag moves the colour; any other release is a click. After a drag or
-// a cancel, `isCancelled` stays set until all buttons in `held` are up: their releases are no
-// clicks.
 // Finish all press state before emitting anything: a slot may run a dialog or delete the widget.
 void PaletteWidgetPrivate::release(const QMouseEvent* event)
 {

@@ -31,8 +31,8 @@ public:
     /// Moves the field of row `from` to row `to`; those in between shift by one.
     void move(unsigned from, unsigned to);
 
-    /// Replaces and deletes a field, and takes ownership of the new one. Deletes the
-    /// new one if there is no such row.
+    /// Replaces a field and deletes the old one. Takes ownership of the new one, which
+    /// is deleted if there is no such row.
     void replace(unsigned row, SnipField* field);
 
     /// The field of a row, null if there is none. The model keeps ownership.
