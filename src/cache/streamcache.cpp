@@ -90,6 +90,7 @@ bool StreamCache::isEqual(Item* a, Item* b) const
     if (a->crc != b->crc) {
         return false;
     }
+    // Nothing has been decoded yet: compare the stored bytes and save that work.
     if (wasKnown && a->type == b->type) {
         return holdsSame(itemRawData(a), itemRawData(b));
     }

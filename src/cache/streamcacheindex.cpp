@@ -2,6 +2,11 @@
 
 #include <algorithm>
 
+// Each item in the index has a place, a number that grows along the list. Items with a known
+// checksum are in `m_byChecksum`, sorted by checksum and then by place, so that a search finds the
+// first item of the list first. Items without one wait in `m_open` until `complete()`. The index of
+// an item in the list is found by a binary search for its place.
+
 namespace Zorv {
 
 void StreamCacheIndex::build(const QList<Item*>& items)

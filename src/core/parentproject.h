@@ -222,7 +222,7 @@ public:
     /// string are written as temporary copies, which are removed when the engine ends. Existing
     /// files in the engine's folder are not changed.
     ///
-    /// The executable is that of the game folder, if there is one. Otherwise the user chooses one
+    /// Runs the executable in the game folder, if there is one. Otherwise the user chooses one
     /// of the configured engines. In the parameters, "%0" stands for the current project and "%1"
     /// and up for the open projects. The engine receives the path of the copied main file, relative
     /// to the engine's folder, which is also its working folder. Blanks separate arguments, but a

@@ -13,6 +13,10 @@
 #include <set>
 #include <utility>
 
+// `saveAll()` starts with a list of all files that the main document refers to. Some registered
+// files are written from memory and taken off the list: for a copy those that are modified or not
+// on disk, for a move all except the main document. All others are copied byte by byte.
+
 namespace Zorv {
 
 namespace {

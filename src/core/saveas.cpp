@@ -16,6 +16,13 @@
 
 #include <vector>
 
+// How a game moves to a new folder:
+//
+// The old places of all open projects are recorded first (`Project::Place`). Then the files of
+// closed projects are copied, and the open projects are written from memory. If all open projects
+// could be written, the tree changes its root folder. Otherwise, or if the user cancels, every open
+// project goes back to its old place. The old files are never deleted.
+
 namespace Zorv {
 
 namespace {

@@ -12,11 +12,11 @@ namespace Zorv {
 
 namespace {
 
-// What a text document can hold, with some room for editing.
+// A text document's limit, with some room for editing.
 const qint64 MaxBytes = 256 * 1024 * 1024;
 
-/// A few letters in a text of ASCII mislead a detector. But bytes that are not
-/// meant as UTF-8 hardly ever make sense in it.
+/// A few non-ASCII letters in an ASCII text mislead detection. But bytes that are not UTF-8 are
+/// hardly ever valid UTF-8.
 bool isUnmistakablyUtf8(const QByteArray& data)
 {
     const auto isBeyondAscii = [](char byte) { return (byte & 0x80) != 0; };
@@ -24,7 +24,7 @@ bool isUnmistakablyUtf8(const QByteArray& data)
            TextCodecs::isFaithful(data, TextCodecs::index("UTF-8"));
 }
 
-/// Part of a file must never pass for the whole: it would be saved over it.
+/// A partial read must fail: otherwise saving would overwrite the whole file with a part of it.
 bool readWhole(QIODevice& device, QByteArray& data, QString* reason)
 {
     const qint64 size = device.isSequential() ? 0 : device.size();
@@ -40,14 +40,14 @@ bool readWhole(QIODevice& device, QByteArray& data, QString* reason)
     return data.size() >= size;
 }
 
-/// These characters end a line of a text document, and do not come out of it again.
+/// QTextDocument turns these characters into line ends, so they are lost.
 bool isSwallowed(QChar c)
 {
     const ushort code = c.unicode();
     return code == QChar::ParagraphSeparator || code == 0xfdd0 || code == 0xfdd1;
 }
 
-/// Ends all lines in '\n', and tells how they ended before.
+/// Changes all line ends to '\n' and records whether they were different before.
 void takeText(QString text, FileText* file)
 {
     file->hasForeignLineEnds = false;

@@ -8,20 +8,21 @@ namespace Zorv {
 
 class Archive;
 
-/// The text of a file as a `CodeDocument` takes it over, with what it keeps of the file.
+/// The text of a file as a `CodeDocument` would load it, with facts about the file.
 ///
-/// A document belongs to the main thread. A host that has to know what many files say reads them
-/// by this in any thread, and finds what a document would have.
+/// A document belongs to the main thread. With this class a host can read many files in any thread,
+/// with the same result as a document.
 struct ZORV_EXPORT FileText
 {
-    QString text;                     ///< as `CodeDocument::text()` gives it: lines end in '\n'
+    QString text;                     ///< like `CodeDocument::text()`: lines end in '\n'
     int codec = 0;                    ///< a number of `TextCodecs`
-    bool hasMark = false;             ///< a byte-order mark stands at the head of the file
-    bool hasForeignLineEnds = false;  ///< some line ends otherwise than "\r\n"
-    bool isFaithful = true;  ///< the codec gives the file back byte for byte, line ends aside
+    bool hasMark = false;             ///< the file begins with a byte-order mark
+    bool hasForeignLineEnds = false;  ///< some lines do not end with "\r\n"
+    bool isFaithful = true;  ///< the codec reproduces the file byte for byte, except line ends
 
-    /// Reads a whole file. A negative `wanted` codec detects. False, with `error` in words for the
-    /// person, if it cannot be read or is larger than a document can hold; nothing changes then.
+    /// Reads a whole file. A negative `wanted` detects the codec. Returns false, with `error` in
+    /// words for the user, if the file cannot be read or is too large for a document. Nothing
+    /// changes then.
     bool read(Archive& archive, const QString& fileName, int wanted, QString* error);
 };
 

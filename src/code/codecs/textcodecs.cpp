@@ -30,7 +30,7 @@ const struct
     const char* codec;
 } marks[] = {
     {QByteArray("\xef\xbb\xbf", 3), "UTF-8"},
-    // The longer ones stand first: UTF-32 begins as UTF-16 does.
+    // Longer marks come first, because UTF-32 begins like UTF-16.
     {QByteArray("\xff\xfe\0\0", 4), "UTF-32LE"},
     {QByteArray("\0\0\xfe\xff", 4), "UTF-32BE"},
     {QByteArray("\xff\xfe", 2), "UTF-16LE"},
@@ -63,7 +63,7 @@ QTextCodec* detected(const QByteArray& data)
     }
     uchardet_data_end(detector.get());
     const QByteArray name = uchardet_get_charset(detector.get());
-    // Every codec shares ASCII: it says nothing about what will be typed later.
+    // ASCII is part of every codec, so it does not tell which one is meant.
     const bool isTelling = !name.isEmpty() && qstricmp(name.constData(), "ASCII") != 0 &&
                            qstricmp(name.constData(), "US-ASCII") != 0;
     return isTelling ? QTextCodec::codecForName(name) : nullptr;
@@ -114,7 +114,7 @@ QByteArray TextCodecs::stringToData(const QString& text, int number)
 
 int TextCodecs::firstUnencodable(const QString& text, int number)
 {
-    // What comes back is compared: some codecs replace a character in silence.
+    // Compares the decoded text, because some codecs replace characters silently.
     const QTextCodec* codec = codecOf(number);
     QTextCodec::ConverterState encoding(QTextCodec::IgnoreHeader);
     QTextCodec::ConverterState decoding(QTextCodec::IgnoreHeader);
@@ -144,7 +144,7 @@ bool TextCodecs::isFaithful(const QByteArray& data, int number)
         const int size = qMin(Block, data.size() - start);
         const QString text = codec->toUnicode(data.constData() + start, size, &decoding);
         const QByteArray back = codec->fromUnicode(text.constData(), text.size(), &encoding);
-        // A codec that is not Unicode's reads the mark as text.
+        // A codec that is not Unicode decodes the mark as text.
         if (same < 0) {
             same = back.startsWith(mark) ? 0 : mark.size();
         }
@@ -175,7 +175,7 @@ int TextCodecs::faithfulCodec(const QByteArray& data)
             return number;
         }
     }
-    // A character for every byte.
+    // ISO-8859-1 has a character for every byte.
     return index("ISO-8859-1");
 }
 

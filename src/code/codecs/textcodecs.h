@@ -9,58 +9,60 @@ class QTextCodec;
 
 namespace Zorv {
 
-/// A numbered list of text encodings, and conversion by number or by detection.
+/// A numbered list of text encodings, and conversion by number or with
+/// detection.
 ///
-/// Number 0 is the system's codec and n above 0 is entry n - 1 of Qt's list. A
-/// negative number asks for detection. Numbers are good within one run. The
-/// list is built before `main` and is read-only from then on.
+/// Number 0 is the system's codec; n above 0 is entry n - 1 of Qt's list. A
+/// negative number means detection. The numbers are only valid within one run
+/// of the program. The list is built before `main` and read-only afterwards.
 class ZORV_EXPORT TextCodecs
 {
 public:
-    /// How many numbers there are; at least 1.
+    /// The number of codecs; at least 1.
     static int count();
 
-    /// The number of a codec, compared byte for byte; 0 if it is not there.
+    /// The number of a codec by its exact name; 0 if it does not exist.
     static int index(const char* name);
 
-    /// The name of a codec; for 0 the translated text "System", empty for a
-    /// number that is not on the list.
+    /// The name of a codec. For 0 the translated text "System"; empty for a
+    /// number outside of the list.
     static QString name(int number);
 
-    /// The codec to fall back on where nothing is detected. 0 at first: the
-    /// system's.
+    /// Sets the codec to use if detection fails. Initially 0, the system's
+    /// codec.
     static void setDefaultCodec(int number);
 
-    /// The codec in which `data` seems to be written. A detection of plain
-    /// ASCII counts as nothing detected. Never null.
+    /// Detects the codec of `data`. Plain ASCII counts as not detected, and the
+    /// default codec is used. Never null.
     static QTextCodec* get(const QByteArray& data);
 
-    /// Decodes. A negative `*number` detects; the number of the codec in use is
-    /// written back, 0 if it is not on the list.
+    /// Decodes. If `*number` is negative, the codec is detected. `*number` is
+    /// set to the codec used, or to 0 if that is not in the list.
     static QString stringFromData(const QByteArray& data, int* number);
 
-    /// Encodes. A character that the codec lacks becomes what Qt puts there. A
-    /// number that is not on the list stands for the system's codec here and
+    /// Encodes. Characters that the codec does not have are replaced by Qt. A
+    /// number outside of the list means the system's codec, here and
     /// everywhere.
     static QByteArray stringToData(const QString& text, int number);
 
-    /// The place of the first character of `text` that would not come back from
-    /// the codec as it is; -1 if all do. One half of a surrogate pair never does.
+    /// The index of the first character in `text` that would not survive
+    /// encoding and decoding; -1 if all do. Half of a surrogate pair never
+    /// does.
     static int firstUnencodable(const QString& text, int number);
 
-    /// True if decoding and encoding with the codec gives `data` back, byte for
-    /// byte, a byte-order mark aside.
+    /// True if decoding and encoding reproduces `data` byte for byte, apart
+    /// from a byte-order mark.
     static bool isFaithful(const QByteArray& data, int number);
 
-    /// A codec that is faithful to `data`: UTF-8 if it is, else the one that its
-    /// byte-order mark tells, the detected one, or a Windows or ISO codec. There
-    /// always is one.
+    /// A codec that is faithful to `data`. The candidates in this order: UTF-8,
+    /// the codec of its byte-order mark, the detected codec, a Windows codec,
+    /// an ISO codec. The last one always works.
     static int faithfulCodec(const QByteArray& data);
 
-    /// The byte-order mark at the head of `data`, as it stands there; empty
-    /// without one. `stringToData()` writes one for UTF-16 and UTF-32 only: a
-    /// file that is to keep its own mark, or to have none, takes off what this
-    /// finds there.
+    /// The byte-order mark at the start of `data`; empty if there is none.
+    /// `stringToData()` writes a mark only for UTF-16 and UTF-32. To keep a
+    /// file's own mark, or to have none, remove the mark that this function
+    /// finds.
     static QByteArray byteOrderMark(const QByteArray& data);
 };
 

@@ -100,8 +100,8 @@ QString AnimationCode::frameTemplate(const FrameCode*) const
     return {};
 }
 
-/// The grammar may make a new node of each line that the edit touches, so all of them are
-/// looked up again.
+/// The parser may replace the nodes of all lines that the edit touches, so they are looked up
+/// again.
 FrameCode* AnimationCode::insertFrame(unsigned index)
 {
     CodeDocument* document = this->document();

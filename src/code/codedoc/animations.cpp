@@ -22,8 +22,8 @@ public:
     QList<AnimationCode*> list;
     bool moving = false;
     int current = 0;
-    int settled = 0;             ///< `current` when the text was last at rest
-    bool isCurrentGone = false;  ///< it is a number alone until then
+    int settled = 0;             ///< `current` before the present change of the text
+    bool isCurrentGone = false;  ///< until the change ends, `current` is only a number
 };
 
 void AnimationsPrivate::inserted(int row)
@@ -34,9 +34,9 @@ void AnimationsPrivate::inserted(int row)
     }
 }
 
-/// The row is still in the list. A line that is parsed again has its new node in front of the old
-/// one for a moment. A text that is read anew loses all rows and gets others: then the place
-/// counts.
+/// Called while the row is still in the list. If a line is parsed again, its new node is briefly in
+/// front of the old one; then `current` stays on it. If a text is loaded, all rows are removed and
+/// new ones appear; then the index is kept.
 void AnimationsPrivate::removed(int row)
 {
     const AnimationCode* above = list.value(row - 1);
@@ -67,8 +67,8 @@ QString identifierOf(const AnimationCode* animation)
     return animation->property(Identifier).toString();
 }
 
-/// What animations are sorted by. Numbers go by value, texts without regard to
-/// case; between a number and a text nothing is said.
+/// The sort key of an animation. Numbers are compared by value and texts ignoring case; a number
+/// and a text are not ordered.
 class SortKey
 {
 public:

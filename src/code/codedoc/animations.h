@@ -18,9 +18,8 @@ struct SpriteNumber;
 
 /// All animations of a document as a list that can be rearranged.
 ///
-/// Every operation is an edit of the text; the rows follow by parsing. The host
-/// registers it for `CodeNode::Animation`. It is empty when its document dies.
-/// Main thread only.
+/// Every operation edits the text; the rows follow from parsing. The host registers it for
+/// `CodeNode::Animation`. It becomes empty when its document is destroyed. Main thread only.
 class ZORV_EXPORT Animations : public OrganizableObject, public CodeDocumentEditor
 {
     Q_OBJECT
@@ -29,29 +28,29 @@ public:
     explicit Animations(CodeDocument* document);
     ~Animations() override;
 
-    /// Removes the lines of animations that change nothing in the game, as one step of undo,
-    /// and gives their number. What those are is for the grammar to say. With `dryRun` nothing is
-    /// edited. `lines` takes what is done, a line of plain text each, at its end.
+    /// Removes lines of animations that have no effect in the game, as one undo step, and returns
+    /// their number. The derived class decides which lines these are. With `dryRun` nothing is
+    /// edited. One line of plain text per change is appended to `lines`.
     virtual int optimize(bool dryRun = false, QStringList* lines = nullptr) = 0;
 
-    /// The text of a new animation, with "%1" where the identifier goes.
+    /// The text of a new animation, with "%1" for the identifier.
     virtual QString animationTemplate() const = 0;
 
-    /// @name What an import takes from one text to another
+    /// @name For importing animations from another text
     /// @{
-    /// True for a text that can name an animation. As it stands here any that is not blank.
+    /// True if the text is a valid name for an animation. By default every text that is not blank.
     virtual bool canName(const QString& identifier) const;
 
-    /// The lines that an animation takes along, also the place of what replaces it, without the
-    /// last line end. As it stands here all its lines but empty ones at the end; in a grammar
-    /// whose comments belong to an animation the host says which do. A null cursor outside of the
+    /// Selects the lines that belong to an animation and are replaced with it, without the last
+    /// line end. By default these are all its lines except empty ones at the end. A host whose
+    /// comments belong to an animation overrides this. Null cursor for an index outside of the
     /// list.
     virtual QTextCursor ownLines(unsigned index) const;
 
-    /// Those lines as another text would have them, with a line feed between two: under
-    /// `identifier`, and with another sprite in each frame whose own is a key of `sprites`. The
-    /// text of this document stays. Null if there is none: outside of the list, and for an
-    /// identifier that cannot name an animation. As it stands here there never is.
+    /// These lines as another text would contain them, separated by LF: with the given identifier,
+    /// and with sprites replaced according to `sprites` in each frame. The text of this document
+    /// does not change. Returns a null string for an index outside of the list and for an invalid
+    /// identifier. The default always returns null.
     virtual QString codeFor(unsigned index, const QString& identifier,
                             const QHash<SpriteNumber, SpriteNumber>& sprites) const;
     /// @}
@@ -59,45 +58,44 @@ public:
     QList<AnimationCode*> animations() const;
     int count() const;
 
-    /// The animation at a place, null outside of the list.
+    /// The animation at an index; null outside of the list.
     AnimationCode* at(unsigned index) const;
 
-    /// The place of the animation that a person looked at last; 0 at first. It goes with the
-    /// animation when the text is edited and rows are moved. When that is removed the place
-    /// stays, and may be behind the last one.
+    /// The index of the animation the user looked at last; initially 0. It follows the animation
+    /// when the text is edited or rows move. When that animation is removed, the index stays and
+    /// may be behind the end of the list.
     int currentIndex() const;
 
-    /// Makes a place current; one outside of the list means that none is.
+    /// Makes a row current. An index outside of the list means none.
     void setCurrent(int index);
 
-    /// -1 for a stranger.
+    /// The index of an animation; -1 if it is not in the list.
     int indexOf(const AnimationCode* animation) const;
 
-    /// The first place from `start` on whose "Identifier" equals `identifier`
-    /// as text; -1 if there is none.
+    /// The first index, starting at `start`, whose "Identifier" equals `identifier` as text; -1 if
+    /// there is none.
     int find(unsigned start, const QVariant& identifier) const;
 
-    /// Writes a new animation in front of another, or at the end; gives it.
+    /// Writes a new animation in front of another one, or at the end, and returns it.
     AnimationCode* insert(unsigned index, const QString& identifier);
     AnimationCode* add(const QString& identifier);
 
-    /// Writes a copy behind an animation, with another identifier unless that
-    /// is empty: wherever the trimmed template, filled with the old identifier,
-    /// stands in the copy, without regard to case, it is filled with the new one.
-    /// A template of several lines never does, for the lines of the copy are
-    /// divided by U+2029: the copy then keeps the old identifier, and a host that
-    /// wants another writes it itself. Inside a change the nodes come when it ends.
+    /// Writes a copy behind an animation. If `identifier` is not empty, the copy gets it: every
+    /// occurrence of the trimmed template with the old identifier, ignoring case, is replaced by
+    /// the template with the new one. This never works for templates of several lines, because the
+    /// lines of the copy are separated by U+2029: the copy keeps the old identifier, and the host
+    /// must change it itself. Inside a change, the nodes only appear at its end.
     void duplicate(unsigned index, const QString& identifier);
 
-    /// Takes an animation with all its lines out of the text.
+    /// Removes an animation with all its lines from the text.
     void remove(unsigned index) override;
 
-    /// Moves an animation. Moved to the last place it is written at the very
-    /// start of the document: use two moves to reach the end.
+    /// Moves an animation. Moving it to the last index writes it at the very start of the document:
+    /// use two moves to reach the end.
     void move(unsigned from, unsigned to) override;
 
-    /// Sorts by identifier: numbers by value, texts without regard to case, a
-    /// number and a text stay as they stand. Stable, one step of undo.
+    /// Sorts by identifier: numbers by value, texts ignoring case. A number and a text are not
+    /// compared and keep their order. Stable; one undo step.
     void autoOrganize() override;
 
     void beginChange(const QString& title) override;
@@ -105,7 +103,7 @@ public:
 
     int rowCount(const QModelIndex& parent = {}) const override;
 
-    /// The name of an animation; nothing while the code is being changed.
+    /// The name of an animation; empty while the code is being changed.
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
 
     void insertChild(CodeNode* child, unsigned index) override;

@@ -12,63 +12,65 @@ namespace Zorv {
 class CodeBlockDataPrivate;
 class CodeNode;
 
-/// What a code document knows of one line of its text.
+/// What a code document knows about one line of its text.
 ///
-/// At most one for each block, owned by it. Main thread only.
+/// There is at most one per block, owned by the block. Main thread only.
 class ZORV_EXPORT CodeBlockData : public QTextBlockUserData
 {
 public:
-    /// A message on columns of the line.
+    /// A message about some columns of the line.
     struct SyntaxMessage
     {
         enum Type { Error = 0, Warning = 1, Deprecated = 2 };
 
         Type type;
-        int start;     ///< column of the first character
-        int end;       ///< behind the last one
-        QString text;  ///< for the person
+        int start;     ///< first column
+        int end;       ///< column behind the last one
+        QString text;  ///< in words for the user
     };
 
-    /// A bracket of the line.
+    /// A bracket in the line.
     struct Parenthesis
     {
         enum Type { Opening = 0, Closing = 1 };
 
         Type type;
-        QChar character;  ///< the bracket itself
-        int position;     ///< its column
+        QChar character;  ///< the bracket
+        int position;     ///< the column
     };
 
-    /// The document hears of it: the node of the line is to go.
+    /// Notifies the document, which then removes the node of the line.
     ~CodeBlockData() override;
 
-    /// The data of a block, made if the block is valid and has none; null for
-    /// an invalid block.
+    /// The data of a block. Created if the block is valid and has none. Null
+    /// for an invalid block.
     static CodeBlockData* blockData(const QTextBlock& block);
 
-    /// The data of a block, or null; makes nothing.
+    /// The data of a block; null if there is none.
     static CodeBlockData* testBlockData(const QTextBlock& block);
 
-    /// The node that the grammar returned for the line, or null.
+    /// The node that the parser returned for the line, or null.
     CodeNode* codeNode() const;
 
-    /// Folded in the editor; kept here so that it moves with the line.
+    /// True if the line is folded in the editor. Stored here so that it moves
+    /// with the line.
     bool isFolded() const;
     void setFolded(bool folded);
 
-    /// True if the line holds a token other than a comment.
+    /// True if the line contains a token other than a comment.
     bool isParsed() const;
 
-    /// In the order in which the grammar reported them.
+    /// In the order in which the parser reported them.
     const QVector<SyntaxMessage>& syntaxMessages() const;
     const QVector<Parenthesis>& parenthesis() const;
 
-    /// The level of the line for folding, 0 at the outermost. Logarithmic for
-    /// a line of no class, constant for others.
+    /// The folding level of the line; 0 is the outermost. Logarithmic for lines
+    /// without a class, constant for others.
     int foldingIndent() const;
 
 protected:
-    /// The state lies in the same piece of memory: there are millions of lines.
+    /// The state is allocated together with the object, because there may be
+    /// millions of lines.
     explicit CodeBlockData(CodeBlockDataPrivate* state);
 
 private:

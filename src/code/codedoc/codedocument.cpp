@@ -30,8 +30,8 @@ const QString& parseCodeKey()
 
 CodeDocument::CodeDocument(short tag) : RootCode(tag)
 {
-    // The plain layout comes first: with the default one, every line that the
-    // highlighter colours would lay out the text again.
+    // Set the plain layout first: the default one would lay out the text again for every coloured
+    // line.
     setDocumentLayout(new QPlainTextDocumentLayout(this));
     setDefaultFont(QFont(QStringLiteral("Courier"), 10));
     d = std::make_unique<CodeDocumentPrivate>(this);
@@ -64,7 +64,7 @@ void CodeDocument::setParser(CodeParser* parser)
 {
     if (d->parser != parser) {
         if (!d->parser) {
-            // Without a parser they do not follow the text.
+            // Without a parser, messages do not follow the text.
             messages()->clear();
         }
         d->parser = parser;

@@ -18,7 +18,7 @@ bool isHead(const CodeNode* node)
     return (node->type() & (CodeNode::Group | CodeNode::Animation)) != 0;
 }
 
-/// Whoever edits the head of an animation still looks at the same frame of it.
+/// A replaced animation head keeps its current frame, because the user still looks at it.
 void handOnFrame(const CodeNode* old, CodeNode* node)
 {
     if (old->type() == CodeNode::Animation && node->type() == CodeNode::Animation) {
@@ -93,8 +93,8 @@ void CodeDocumentPrivate::parsed()
     }
 }
 
-/// Goes on to the lines that were parsed under a head which is no longer theirs,
-/// though Qt saw no reason to, or were parsed for their nodes only.
+/// Continues with lines that Qt skipped: those parsed under an outdated head, or so far only parsed
+/// for their nodes.
 void CodeDocumentPrivate::parseDependents()
 {
     while (const CodeBlockData* last = CodeBlockData::testBlockData(lastParsed)) {
@@ -108,8 +108,8 @@ void CodeDocumentPrivate::parseDependents()
     }
 }
 
-/// Inside an edit block the messages still have the lines from before it, and
-/// Qt will tell of the whole block's edits when it ends.
+/// Inside an edit block, messages still have the line numbers from before it. They are cleared,
+/// because Qt will report all edits of the block at its end.
 void CodeDocumentPrivate::rehighlightAll()
 {
     stepsBeforeChange = Begun;
@@ -151,8 +151,8 @@ CodeNode* CodeDocumentPrivate::nodeAbove(const CodeBlockData* data) const
     return line ? line->d->node : q;
 }
 
-/// The grammar gets the old node only where it may stay: right behind `previous`, and in a place
-/// in the tree that a new one would come to, or that the document finds for it.
+/// The old node is passed to the parser only if it may stay: it is directly behind `previous`, and
+/// its place in the tree is right or can be corrected here.
 CodeNode* CodeDocumentPrivate::parseLine(const QTextBlock& block, CodeBlockData* data,
                                          const QString& text, CodeParserSyntax* syntax)
 {
@@ -203,9 +203,9 @@ int CodeDocumentPrivate::stateOf(const CodeNode* node)
     return node->previous(CodeNode::Animation, CodeNode::StopAtCode) ? AnimationState : 0;
 }
 
-/// What the lines below a line depend on. A head that was brought up to date keeps its number, and
-/// so does one that is made anew from the same words in the same place: it takes the children of
-/// the old one over. Any other head is another one.
+/// Computes the context for the lines below. A head that was updated keeps its number. So does a
+/// head that was created again from the same words in the same place, and it takes over the
+/// children of the old one. Any other head gets a new number.
 quint32 CodeDocumentPrivate::contextOf(CodeNode* node, CodeNode* old, const CodeBlockData* data,
                                        const QString& text)
 {

@@ -19,21 +19,19 @@ namespace Zorv {
 
 class CodeDocumentEditor;
 
-/// Parses the lines of a document as Qt's highlighter asks for them, and keeps
-/// what it finds true.
+/// Parses the lines of a document when Qt's highlighter asks for them, and keeps all derived data
+/// up to date.
 ///
-/// Qt highlights the edited lines and goes on as long as a line's state comes
-/// out otherwise than before. That state follows the head above a line only
-/// roughly, so each head has a number of its own, its context, each line keeps
-/// the one that it was parsed under, and a pass goes on until that is true of
-/// the next line. Each node of these lines comes to the place in the tree that
-/// the text above alone gives it, as in a fresh parse. Around it, the pass takes
-/// care of what Qt cannot know: nodes of lines that are gone, line numbers of
-/// messages, and folding levels.
+/// Qt highlights the edited lines and continues as long as the state of a line changes. The state
+/// only approximates the head above a line. So each head also has a unique number, its context, and
+/// each line stores the context it was parsed under. A pass continues until the next line's context
+/// is correct. Each node of these lines is put where a complete parse would put it in the tree. A
+/// pass also handles what Qt cannot know: nodes of deleted lines, line numbers of messages and
+/// folding levels.
 class CodeDocumentPrivate : public QSyntaxHighlighter, public CodeParserSyntax
 {
 public:
-    /// The state of lines that stand under an animation.
+    /// The block state of lines below an animation head.
     static constexpr int AnimationState = int(0x80000000);
 
     explicit CodeDocumentPrivate(CodeDocument* document);
@@ -42,33 +40,33 @@ public:
     /// Parses every line again in one pass.
     void rehighlightAll();
 
-    /// Parses lines at once, for nodes only, inside an edit block.
+    /// Parses lines at once inside an edit block, for their nodes only.
     void parseNow(QTextBlock block, const QTextBlock& behind);
 
-    /// True if an edit by the tree must parse at once.
+    /// True if an edit through the tree must be parsed at once.
     bool mustParseNow() const;
 
-    /// Takes nodes of deleted lines out of chain and tree and releases them.
+    /// Removes nodes of deleted lines from chain and tree and releases them.
     void dropDeadNodes();
 
-    /// Takes a node out of tree and chain while it is whole, then releases it:
-    /// lists that hear of it may still ask for its name.
+    /// Removes a node from tree and chain, then releases it. The order matters: lists that are
+    /// notified may still ask the node for its name, so it must be complete.
     static void retire(CodeNode* node);
 
-    /// Tells the editor of a new child of the root: at once, or behind the call
-    /// of the grammar in which the node is still being made.
+    /// Notifies the editor of a new child of the root: at once, or after the parser call that is
+    /// still creating the node.
     void announce(CodeNode* child);
 
-    /// Called by the data of a line that dies, inside of Qt's edit.
+    /// Called by the data of a deleted line, inside Qt's edit.
     void lineGone(CodeBlockData* line);
 
-    /// Forgets a child of the root that goes.
+    /// Handles the removal of a child of the root.
     void forget(CodeNode* child);
 
-    /// A tracked node leaves the chain that it stands in.
+    /// A tracked node leaves its chain.
     static void untrack(CodeNode* node);
 
-    /// How many nodes of the kind of a child of the root stand in front of it.
+    /// The number of nodes before `child`, a child of the root, that are of the same kind.
     unsigned placeAmongKind(const CodeNode* child);
     static unsigned editorKey(CodeNode::Type type, unsigned group);
     static unsigned editorKey(const CodeNode* node);
@@ -88,15 +86,15 @@ public:
     int changeDepth = 0;
     StepTitles titles;
 
-    /// The length of the history when the open change began, to see whether that
-    /// has edited anything yet.
+    /// The length of the undo history when the open change began, to see whether it has edited
+    /// anything yet.
     int stepsBeforeChange = 0;
     static constexpr int Begun = -1;
     QVector<unsigned> groups;
     QMap<unsigned, CodeDocumentEditor*> editors;
     LineIndex lines;
     QSet<const CodeNode*> tracked;
-    std::map<QString, std::unique_ptr<EditorData>> editorData;  ///< by the name of its editor
+    std::map<QString, std::unique_ptr<EditorData>> editorData;  ///< by the name of the editor
     quint64 parsedLines = 0;
 
     enum class Mark { AsCodec, Present, Absent };
@@ -116,7 +114,7 @@ private:
     void parseDependents();
     void tellLevels(const CodeBlockData* last);
     CodeBlockData* enter(const QTextBlock& block);
-    /// Gives the line its node and its context; returns the old node if that has to go.
+    /// Updates the node and context of a line. Returns the old node if it must be retired.
     CodeNode* parseLine(const QTextBlock& block, CodeBlockData* data, const QString& text,
                         CodeParserSyntax* syntax);
     CodeNode* nodeAbove(const CodeBlockData* data) const;

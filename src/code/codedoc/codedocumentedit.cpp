@@ -21,7 +21,7 @@ void CodeDocument::endChange()
     if (d->changeDepth == 0) {
         return;
     }
-    // The block ends first: what the pass tells still belongs to the change.
+    // End the edit block first: what the pass reports is still part of the change.
     if (d->changeDepth == 1) {
         d->cursor.endEditBlock();
         d->titles.end();
@@ -35,8 +35,9 @@ void CodeDocument::placeChange(const QTextCursor& edit)
         availableUndoSteps() != d->stepsBeforeChange) {
         return;
     }
-    // So far the block is empty: it can begin again elsewhere. Undo goes to that place, or, if
-    // the first edit begins right there, behind what it restores: the line below whole lines.
+    // The edit block is still empty, so it can be started again elsewhere. Undo puts the cursor at
+    // its start. If the first edit begins exactly there, Qt puts it behind the restored text: for
+    // whole lines that is the line below.
     QTextCursor start(this);
     const int first = edit.selectionStart();
     const bool hasLineEnd = findBlock(first) != findBlock(edit.selectionEnd());

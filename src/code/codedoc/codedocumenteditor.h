@@ -10,15 +10,16 @@ namespace Zorv {
 class CodeDocument;
 class CodeNode;
 
-/// A file of a project that is a view on part of a code document.
+/// A file of a project that is a view of one part of a code document.
 ///
-/// Name, messages, state and history are those of the document. Registered with
-/// `CodeDocument::registerDocumentEditor()` it hears of the nodes of its kind.
+/// Name, messages, modified state and history are those of the document.
+/// Registered with `CodeDocument::registerDocumentEditor()`, it is notified
+/// about the nodes of its kind.
 ///
-/// It is released once: by its project, if it is a file of one that is released
-/// or gives the file up, else by its document when that dies. A dying editor
-/// takes itself off both. One that outlives its document is an empty file that
-/// can neither be read nor written.
+/// It is released exactly once: by its project, if it is registered there as a
+/// file and the project is released or removes it; otherwise by its document
+/// when that is destroyed. The destructor unregisters it from both. An editor
+/// that outlives its document is an empty file that cannot be read or written.
 class ZORV_EXPORT CodeDocumentEditor : public ProjectFile
 {
 public:
@@ -26,18 +27,19 @@ public:
     explicit CodeDocumentEditor(CodeDocument* document);
     ~CodeDocumentEditor() override;
 
-    /// Null when the document has died.
+    /// Null after the document has been destroyed.
     CodeDocument* document() const;
 
     Project* project() const override;
     Messages* messages() const override;
     int checkErrors() override;
 
-    /// Those of the document, with bit 0 set if it is the project's main one.
+    /// The document's capabilities, with bit 0 set if it is the main document
+    /// of the project.
     int capabilities() const override;
 
-    /// False while bit 0 of `capabilities()` is set: the list is saved with its
-    /// document.
+    /// False if bit 0 of `capabilities()` is set, because the list is then
+    /// saved with its document.
     bool canSave() const override;
     bool isModified() const override;
     bool isEmpty() const override;
@@ -48,9 +50,9 @@ public:
     void undo() override;
     void redo() override;
 
-    /// A node of the registered kind has come, gone or changed. `index` is its
-    /// place among the nodes of its kind. Called in the middle of a parse: the
-    /// text must not be edited here.
+    /// A node of the registered kind was added, removed or changed. `index` is
+    /// its index among the nodes of its kind. Called during parsing: do not
+    /// edit the text here.
     virtual void insertChild(CodeNode* child, unsigned index);
     virtual void removeChild(CodeNode* child);
     virtual void childChanged(CodeNode* child);

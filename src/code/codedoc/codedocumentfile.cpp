@@ -14,7 +14,7 @@ namespace Zorv {
 
 namespace {
 
-/// What the watch and the document call a file.
+/// The name used by the file watch and the document.
 QString fullName(const QString& fileName)
 {
     return fileName.isEmpty() ? QString() : QFileInfo(fileName).absoluteFilePath();
@@ -80,7 +80,7 @@ bool CodeDocument::fromFile(Archive& archive, const QString& fileName, int codec
         setErrorString(error);
         return false;
     }
-    // The watch moves only now: a file that cannot be read keeps the old one.
+    // Move the watch only now: if reading fails, the old one is kept.
     if (watch) {
         FileWatchObject::fromFile(archive, fullName(fileName), asCopy);
     }
@@ -144,7 +144,7 @@ bool CodeDocument::toFile(Archive& archive, const QString& fileName, bool asCopy
     QIODevice* device = archive.openFile(fileName, QIODevice::WriteOnly, &reason);
     bool done = device != nullptr;
     if (device) {
-        // The archive checks each write; closing tells if all of them arrived.
+        // Write errors are remembered by the archive and reported by closeFile().
         device->write(toData());
         done = archive.closeFile(device, &reason);
     }

@@ -28,7 +28,7 @@ quint16 traitsOfUnpaired(int lacking)
     return closing | opening;
 }
 
-/// The data of a line that is in an index, else null.
+/// The data of a line if it is in an index, otherwise null.
 CodeBlockData* indexed(const QTextBlock& block)
 {
     CodeBlockData* data = CodeBlockData::testBlockData(block);
@@ -74,7 +74,7 @@ QTextBlock CodeDocument::previousUnpairedBlock(const QTextBlock& block, int lack
     return previousWith(block, traitsOfUnpaired(lacking));
 }
 
-/// Lines that were never parsed are in no index, and have level 0.
+/// Lines that were never parsed are in no index and have level 0.
 QTextBlock CodeDocument::lowerBlockAtOrAbove(const QTextBlock& block, int level) const
 {
     QTextBlock above = block;

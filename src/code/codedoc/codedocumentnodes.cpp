@@ -57,7 +57,7 @@ void CodeDocumentPrivate::retire(CodeNode* node)
 
 namespace {
 
-/// The parent that a value or a frame finds by itself.
+/// The parent that a value or frame chooses by itself.
 ParentCode* parentByHead(const CodeNode* node, CodeNode* head)
 {
     const bool isValue = node->type() == CodeNode::Value;
@@ -68,15 +68,15 @@ ParentCode* parentByHead(const CodeNode* node, CodeNode* head)
 
 }  // namespace
 
-/// True if it is known where under its head a new node would go: a leaf that its constructor left
-/// where a head of the same kind put it, or a head that knows for itself.
+/// True if it is known where a new node would go: either it is a leaf that is where a head of the
+/// same type put it, or it is a head that decides itself.
 bool CodeDocumentPrivate::knowsPlace(const CodeNode* node)
 {
     const CodeNode* head = lineHead(node->m_previous);
     return node->m_placedBy == (head ? head->type() : 0) || node->isInPlace();
 }
 
-/// A node that is kept under another head goes where a new one would have gone.
+/// A node that stays under another head moves to where a new one would go.
 void CodeDocumentPrivate::place(CodeNode* node, bool isKept)
 {
     if (node->m_type & (CodeNode::Value | CodeNode::Frame)) {
@@ -93,7 +93,8 @@ void CodeDocumentPrivate::place(CodeNode* node, bool isKept)
     placeAmongSiblings(node);
 }
 
-/// A grammar appends a new child, as in a fresh parse; the nodes behind it may be there already.
+/// A parser appends new children, which is correct in a complete parse. Here later siblings may
+/// already exist, so the node moves in front of them.
 void CodeDocumentPrivate::placeAmongSiblings(CodeNode* node)
 {
     const CodeNode* before = CodeNodeList::previous(node);
@@ -131,7 +132,7 @@ void CodeDocumentPrivate::dropDeadNodes()
     releaseUnlinked();
 }
 
-/// Leaves go first, so that a dying head only hands on what lives.
+/// Leaves go first, so that a head that is removed passes on only living nodes.
 void CodeDocumentPrivate::unlinkDeadNodes()
 {
     QVector<CodeNode*> nodes;
@@ -175,8 +176,7 @@ unsigned CodeDocumentPrivate::placeAmongKind(const CodeNode* child)
     if (child->type() == CodeNode::Animation) {
         return NodeChain::before(child).animations;
     }
-    // A file that is loaded asks for one node after the other: the place of
-    // the last one asked for is remembered.
+    // A file being loaded asks for one node after the other, so the last result is cached.
     const unsigned key = editorKey(child);
     unsigned count = 0;
     for (const CodeNode* node = NodeChain::backward(child, child->type()); node;

@@ -34,7 +34,7 @@ QTextCharFormat CodeDocumentPrivate::makeFormat(bool bold, bool italic, const QC
 CodeDocumentPrivate::CodeDocumentPrivate(CodeDocument* document)
     : QSyntaxHighlighter(static_cast<QObject*>(nullptr)), q(document), titles(document)
 {
-    // The order of the connections is that of the work: before, Qt's, after.
+    // Slots run in order of connection: before Qt's highlighter, the highlighter itself, after it.
     connect(q, &QTextDocument::contentsChange, this, &CodeDocumentPrivate::aboutToParse);
     setDocument(q);
     connect(q, &QTextDocument::contentsChange, this, &CodeDocumentPrivate::parsed);
@@ -45,7 +45,7 @@ CodeDocumentPrivate::CodeDocumentPrivate(CodeDocument* document)
 
 CodeDocumentPrivate::~CodeDocumentPrivate()
 {
-    // The highlighter's destructor takes all formats off, which is a change of the document.
+    // The highlighter's destructor removes all formats, which would count as a change.
     disconnect(q, nullptr, this, nullptr);
 }
 

@@ -8,19 +8,19 @@ namespace Zorv {
 
 class CodeDocument;
 
-/// Edits of whole lines, counted from 0, as those by the tree: inside of a change the nodes follow
-/// at once. A last line without a line end is a line like any other, and text that comes behind it
-/// leaves it one.
+/// Functions to edit whole lines, counted from 0. They work like edits through the tree: inside a
+/// change, nodes are updated at once. A last line without a line end counts as a line. Text added
+/// behind it starts a new line and has no line end either.
 
-/// Puts a text in front of a line; for the number of lines, at the end. `text` has line feeds
-/// between its lines and none behind the last.
+/// Inserts a text in front of a line, or at the end if `line` is the number of lines. `text` has LF
+/// between its lines and none at the end.
 ZORV_EXPORT void insertLines(CodeDocument* document, int line, const QString& text);
 
-/// Puts a text in the place of the lines `first` to `last`, both of which have to be there.
+/// Replaces the lines `first` to `last`, which must both exist.
 ZORV_EXPORT void replaceLines(CodeDocument* document, int first, int last, const QString& text);
 
-/// Takes the lines `first` to `last` out with a line end of theirs: the one behind them, at the
-/// end of the text the one in front.
+/// Removes the lines `first` to `last` and one line end: the one behind them, or at the end of the
+/// text the one in front.
 ZORV_EXPORT void removeLines(CodeDocument* document, int first, int last);
 
 }  // namespace Zorv

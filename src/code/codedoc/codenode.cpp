@@ -15,7 +15,7 @@ namespace Zorv {
 CodeNode::CodeNode(Type type, CodeNode* previous) : m_type(type)
 {
     if (previous && previous->m_endBlock != 0) {
-        // Only the root has no line of its own to tell the document.
+        // Only the root has no line, so the document must be found through the root object.
         QTextDocumentPrivate* handle = previous->m_block.docHandle();
         m_block =
             QTextBlock(handle ? handle : previous->document()->docHandle(), previous->m_endBlock);
@@ -25,7 +25,7 @@ CodeNode::CodeNode(Type type, CodeNode* previous) : m_type(type)
 
 CodeNode::~CodeNode()
 {
-    // The line must not keep a node that is gone.
+    // The line must not keep a pointer to a deleted node.
     if (CodeBlockData* data = CodeBlockData::testBlockData(m_block)) {
         CodeBlockDataPrivate::forgetNode(data, this);
     }

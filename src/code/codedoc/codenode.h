@@ -15,7 +15,7 @@ class NodeChain;
 class ParentCode;
 class RootCode;
 
-/// A node's place in a balanced tree; the library's own bookkeeping.
+/// The links of a node in a balanced tree. For internal use.
 struct NodeLink
 {
     CodeNode* up = nullptr;
@@ -23,7 +23,7 @@ struct NodeLink
     CodeNode* right = nullptr;
 };
 
-/// How many nodes of a kind a part of the chain holds; likewise.
+/// The number of nodes of each kind in a subtree of the chain. For internal use.
 struct NodeCounts
 {
     unsigned values = 0;
@@ -34,24 +34,21 @@ struct NodeCounts
 
 /// One node of the parsed view of a code document.
 ///
-/// A node holds no text: it stands on a line of the document, and a change to
-/// it is an edit of that line. Two structures run through the nodes: a chain of
-/// all nodes in text order, and a tree of parents and children, which the
-/// constructors build from the chain. Nodes are made by the host's grammar
-/// inside `CodeParser::parse()` and given up through `release()`. Main thread
-/// only.
+/// A node contains no text. It belongs to a line of the document, and to change it, that line is
+/// edited. Nodes are linked in two structures: a chain of all nodes in text order, and a tree of
+/// parents and children, which the constructors build from the chain. The host's parser creates
+/// nodes in `CodeParser::parse()`. They are given up through `release()`. Main thread only.
 class ZORV_EXPORT CodeNode
 {
 public:
-    /// Bit values, so that a mask can test several.
+    /// Bit values, so that they can be combined in a mask.
     enum Type : unsigned short { Root = 1, Group = 2, Value = 4, Animation = 8, Frame = 16 };
 
     /// A stop mask that lets only groups and animations pass.
     static constexpr unsigned short StopAtCode = 0xfff5;
 
-    /// Links the node into the chain right behind `previous` and takes the
-    /// line that is being parsed as its own; with a null `previous` it has no
-    /// line.
+    /// Inserts the node into the chain directly behind `previous` and binds it to the line being
+    /// parsed. With a null `previous` it has no line.
     CodeNode(Type type, CodeNode* previous);
 
     /// Leaves the parent first, then the chain.
@@ -59,7 +56,7 @@ public:
 
     Type type() const { return m_type; }
 
-    /// The line of the node; invalid if it has none or the line is gone.
+    /// The line of the node. Invalid if it has none or the line has been deleted.
     QTextBlock block() const { return m_block; }
 
     /// The parent in the tree, or null.
@@ -69,49 +66,45 @@ public:
     CodeNode* previous() const { return m_previous; }
     CodeNode* next() const { return m_next; }
 
-    /// The nearest node of exactly `type` upward in the tree, or backward or
-    /// forward in the chain. Null at the end of the walk, or where a node of
-    /// another type has a bit in common with `stopMask`. Along the chain the
-    /// cost is logarithmic.
+    /// The nearest node of exactly this `type`: upward in the tree, or backward or forward in the
+    /// chain. The search ends with null where no node is left, or at a node of another type that is
+    /// in `stopMask`. Logarithmic along the chain.
     CodeNode* parent(Type type, unsigned short stopMask) const;
     CodeNode* previous(Type type, unsigned short stopMask) const;
     CodeNode* next(Type type, unsigned short stopMask) const;
 
-    /// The first and the last line of the node's text, as block numbers; -1 for
-    /// a node without a line.
+    /// The first and last line of the node's text, as block numbers; -1 if the node has no line.
     virtual int firstLine() const;
     virtual int lastLine() const;
 
-    /// The document of the node's line, or null.
+    /// The document that contains the node's line, or null.
     virtual CodeDocument* document() const;
 
-    /// Takes the node's text out of the document: its whole extent with `all`,
-    /// else its own line. The parser then takes the node away: it must not be
-    /// used afterwards.
+    /// Removes the node's text from the document: its whole extent with `all`, otherwise only its
+    /// own line. The parser then removes the node, so do not use it afterwards.
     virtual void remove(bool all);
 
-    /// Gives the node up; how it dies is the host's.
+    /// Gives up the node. The host decides how the object is deleted.
     virtual void release() = 0;
 
-    /// Tells the parent, if there is one, through `ParentCode::childChanged()`.
+    /// Notifies the parent, if there is one, through `ParentCode::childChanged()`.
     virtual void valueChanged(const QVariant& value);
 
-    /// A cursor on the node's line with its line end; a null cursor without one.
+    /// A cursor that selects the node's line with its line end. Null if there is no line.
     QTextCursor select() const;
 
-    /// A cursor on all lines of the node, the last line end included.
+    /// A cursor that selects all lines of the node, including the last line end.
     QTextCursor selectAll() const;
 
-    /// Replaces the node's line by `text`. A comment on the line stays, behind
-    /// one blank. Afterwards the node may have been replaced by another.
+    /// Replaces the node's line by `text`. A comment in the line is kept, after one blank.
+    /// Afterwards the node may have been replaced by another one.
     void change(const QString& text);
 
-    /// True while the line of the node exists. A node whose line was deleted
-    /// lives on until its document has gone on to the next step.
+    /// True while the line of the node exists. If the line was deleted, the node still exists until
+    /// its document processes the next change.
     bool hasLine() const { return m_block.isValid(); }
 
-    /// For a walk that counts: true if this node stands before `other` in the
-    /// same chain.
+    /// True if this node comes before `other` in the same chain.
     bool precedes(const CodeNode* other) const;
 
 private:
@@ -128,19 +121,18 @@ private:
     CodeNode(const CodeNode&) = delete;
     CodeNode& operator=(const CodeNode&) = delete;
 
-    /// Leaves parent and chain; a grammar's nodes do more through leaveTree().
+    /// Leaves parent and chain.
     void unlink();
 
 protected:
-    /// Called when the node's line has gone and before the node leaves the
-    /// tree: a parent hands its children on. Destructors do the same.
+    /// Called after the node's line was deleted and before the node leaves the tree: a parent
+    /// passes its children on. Destructors do the same.
     virtual void handOver();
 
-    /// A document asks this of a head whose line stands under another head than
-    /// before: true if a new node there would have the parent that this one has.
-    /// Then the grammar gets this one to bring it up to date. False at first, and
-    /// true for an animation, which always joins the root; a group that knows
-    /// better saves its children a move.
+    /// Called for a head whose line is now below a different head. Returns true if a new node at
+    /// this place would get the same parent as this one. Then this node is passed to the parser for
+    /// updating. The default is true only for animations, which always belong to the root. A group
+    /// can override it to avoid moving its children.
     virtual bool isInPlace() const;
 
 private:
@@ -162,9 +154,8 @@ private:
                                            // the type of that head, 0 without one
 };
 
-/// The head of a line, from the last node before it: the group or animation that the line
-/// stands under, null for none. A line that is a head itself stands under the one above.
-/// Logarithmic.
+/// The head of a line, given the last node before it: the group or animation that the line belongs
+/// to, or null. If the line is itself a head, this is the one above it. Logarithmic.
 ZORV_EXPORT CodeNode* lineHead(const CodeNode* previous);
 
 }  // namespace Zorv

@@ -7,27 +7,27 @@
 
 namespace Zorv {
 
-/// The children of a parent node in their order.
+/// The ordered children of a parent node.
 ///
-/// A node is in at most one list, that of its parent. Every operation is
-/// logarithmic, so that a million values under one head can be edited. The list
-/// owns nothing; a node must leave it before it dies.
+/// A node is in at most one list, the one of its parent. Every operation is
+/// logarithmic, so that a head may have a million values. The list owns
+/// nothing; a node must leave it before it is destroyed.
 class ZORV_EXPORT CodeNodeList
 {
 public:
     int size() const;
     bool isEmpty() const { return m_root == nullptr; }
 
-    /// The child at `index`, null outside of the list.
+    /// The child at `index`; null if out of range.
     CodeNode* at(int index) const;
 
-    /// The last child, null if there is none.
+    /// The last child; null if there is none.
     CodeNode* last() const;
 
-    /// The place of a child, -1 for a stranger.
+    /// The index of a child; -1 if it is not in the list.
     int indexOf(const CodeNode* node) const;
 
-    /// The children of a type, which all are of class `Node`, in their order.
+    /// The children of a type, in order. All of them must be of class `Node`.
     template <class Node>
     QList<Node*> ofType(CodeNode::Type type) const
     {
@@ -40,14 +40,14 @@ public:
         return result;
     }
 
-    /// Puts a node at `index`, or at the end if that is not inside the list.
-    /// The node must be in no list.
+    /// Inserts a node at `index`, or at the end if `index` is out of range. The
+    /// node must not be in any list.
     void insert(unsigned index, CodeNode* node);
 
-    /// Takes a node out; nothing for a stranger.
+    /// Removes a node. Does nothing if it is not in the list.
     void remove(CodeNode* node);
 
-    /// The nodes next to a child, null at the ends.
+    /// The nodes next to a child; null at the ends.
     static CodeNode* next(const CodeNode* node);
     static CodeNode* previous(const CodeNode* node);
 

@@ -10,18 +10,17 @@ class CodeNode;
 class CodeParserSyntax;
 class RootCode;
 
-/// The grammar of a host: one call for each line of text.
+/// The host's parser for one kind of code. It is called once per line of text.
 ///
-/// What a line means may depend on its text and on the head that it stands
-/// under (`lineHead(previous)`), and for a sub-group's lines on the groups above
-/// that; nothing else. A head itself may take no more than its place in the tree
-/// from the one above it. Then a document parses exactly the lines again that an
-/// edit concerns: those that it changes, and those whose head has become another
+/// The meaning of a line may depend only on its text, on the head above it (`lineHead(previous)`)
+/// and, for lines of a sub-group, on the groups above that head. From the head above it, a head
+/// itself may only take its place in the tree. Because of this rule a document can parse exactly
+/// the lines that an edit affects: those that it changes, and those whose head has become another
 /// node.
 ///
-/// Where a node belongs in the tree is said by its constructor. A value joins the
-/// group above it and a frame the animation above it by themselves, and have no
-/// parent under another head. An animation joins the root. A group joins nothing:
+/// The constructor of a node decides where it belongs in the tree. A value joins the group above
+/// it, a frame the animation above it; under any other head they have no parent. An animation joins
+/// the root. A group joins nothing by itself, see `GroupCode`.
 /// see `GroupCode`.
 class ZORV_EXPORT CodeParser
 {
@@ -30,20 +29,17 @@ public:
 
     /// Parses one line.
     ///
-    /// `previous` is the last node before the line, never null; a new node is
-    /// constructed with it. `syntax` takes the tokens; null if only nodes are
-    /// wanted.
+    /// `previous` is the last node before the line; never null. Pass it to the constructor of a new
+    /// node. `syntax` receives the tokens; it is null if only nodes are wanted.
     ///
-    /// `oldNode` is the node that the line had before, or null. It can be brought
-    /// up to date and returned, without a look at where it stands: it stands right
-    /// behind `previous`, and the document sees to its parent; where a new node is
-    /// needed it gives null. A head that is brought up to date stays the same head,
-    /// and the lines below it are not parsed again: if they come to mean something
-    /// else, make a new one.
+    /// `oldNode` is the line's previous node, or null. The parser may update and return it, without
+    /// checking its position: it is directly behind `previous`, and the document takes care of its
+    /// parent. If a new node is needed anyway, `oldNode` is null. An updated head counts as the
+    /// same head, so the lines below are not parsed again. If their meaning changes, create a new
+    /// node instead.
     ///
-    /// The result is the node of the line, null for a line without one, and
-    /// then the chain is left alone. If it is not the node that the line had, the
-    /// caller releases that.
+    /// Returns the node of the line. Returns null if the line has no node; then the chain must not
+    /// change. If the result is not the line's previous node, the caller releases the previous one.
     virtual CodeNode* parse(const QString& text, CodeNode* oldNode, CodeNode* previous,
                             RootCode* root, CodeParserSyntax* syntax) = 0;
 };

@@ -6,11 +6,11 @@ namespace Zorv {
 
 class FrameCode;
 
-/// The contact boxes of one kind of a frame, in the order of the text.
+/// All contact boxes of one kind in a frame, in text order.
 ///
-/// The list and its boxes belong to the grammar and live as long as the frame. As
-/// it stands here it is empty and takes no box, which does for a host without a
-/// stage.
+/// The parser owns the list and its boxes, which live as long as the frame. By
+/// default the list is empty and adds nothing, which is enough for a host
+/// without a stage.
 class ZORV_EXPORT ContactBoxesCode
 {
 public:
@@ -18,14 +18,14 @@ public:
 
     virtual int count() const;
 
-    /// The box at a place, null outside of the list.
+    /// The box at an index; null if out of range.
     virtual ContactBoxCode* at(int index) const;
 
-    /// Writes a new box into the text, behind the others; gives it, or null if
-    /// the text cannot be changed.
+    /// Writes a new box into the text, behind the others, and returns it. Null
+    /// if the text cannot be changed.
     virtual ContactBoxCode* add(const QRect& rect);
 
-    /// Takes a box out of the text; nothing outside of the list.
+    /// Removes a box from the text. Does nothing if out of range.
     virtual void remove(int index);
 
     /// The kind of the boxes.
@@ -34,7 +34,7 @@ public:
     /// The frame that the boxes belong to.
     virtual FrameCode* frame() const;
 
-    /// The document that holds the text, or null.
+    /// The document with the text, or null.
     virtual CodeDocument* document() const;
 };
 

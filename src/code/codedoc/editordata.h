@@ -6,8 +6,9 @@
 
 namespace Zorv {
 
-/// What an editor keeps with a code document, so that each document remembers
-/// its editor's state: cursor, scroll position. See `CodeDocument::editorData()`.
+/// Data that an editor stores with a code document, so that each document
+/// remembers the editor's state: cursor, scroll position. See
+/// `CodeDocument::editorData()`.
 class ZORV_EXPORT EditorData : public QObjectUserData
 {
 public:

@@ -5,8 +5,8 @@ namespace Zorv {
 class CodeDocument;
 class EngineModel;
 
-/// The family in whose grammar a document is: that of its project, and outside of a
-/// project that of the host. Null without either.
+/// The engine family of a document: that of its project, or without a project that of the host.
+/// Null if there is neither.
 EngineModel* engineModelOf(const CodeDocument* document);
 
 }  // namespace Zorv

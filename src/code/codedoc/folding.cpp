@@ -2,6 +2,19 @@
 
 #include "code/codedoc/lineindex_p.h"
 
+// How levels are computed:
+//
+// A body has the level of the line above, or one more directly below a head. A head has the level
+// of the line above, or one less directly below a body. An outermost head always has level 0.
+//
+// The level of a run of lines without a class depends on the lines with a class around it: the run
+// belongs to a body below it, has level 0 in front of an outermost head, and otherwise follows the
+// line above it (`indentBetween()`). Before the first and behind the last line with a class the
+// level is 0.
+//
+// After an edit, the lines with a class are updated downwards until one does not change. The lines
+// below it do not depend on the edit.
+
 namespace Zorv {
 
 using Data = CodeBlockDataPrivate;
@@ -47,7 +60,7 @@ int Folding::indent(const CodeBlockData* line)
     return above ? indentBetween(above, LineIndex::forward(line, Data::HasClass)) : 0;
 }
 
-/// The level of a run of lines without a class, by its classified neighbours.
+/// The level of a run of lines without a class, from the lines with a class around it.
 int Folding::indentBetween(const CodeBlockData* aboveLine, const CodeBlockData* belowLine)
 {
     if (!belowLine) {
@@ -103,14 +116,14 @@ bool Folding::updateLine(CodeBlockData* line)
     return changed;
 }
 
-/// A run of lines without a class has the level of the classified line below it, so
-/// one that is low enough never stands alone: that line is looked for.
+/// Only lines with a class are searched: a run of lines without one has the level of the line with
+/// a class below it.
 const CodeBlockData* Folding::lowerAtOrAbove(const CodeBlockData* line, int level)
 {
     return indent(line) < level ? line : LineIndex::backwardBelow(line, level);
 }
 
-/// The same, but there the run comes first. That at the end of the text has level 0.
+/// The same downwards, where the run comes first. A run at the end of the text has level 0.
 const CodeBlockData* Folding::lowerBelow(const CodeBlockData* line, int level)
 {
     const CodeBlockData* lower = LineIndex::forwardBelow(line, level);

@@ -4,30 +4,30 @@
 
 namespace Zorv {
 
-/// Folding levels of lines, from the classes that the host gives them.
+/// Folding levels of lines, derived from the folding classes that the host assigns.
 ///
-/// Heads and bodies keep their level. That of a line without a class depends on
-/// the classified lines around it, so it is worked out when it is asked for: a
-/// run of a million comments costs nothing when the line below it changes.
+/// Heads and bodies store their level. The level of a line without a class depends on the nearest
+/// lines with a class, and is computed on demand. So a million comment lines cost nothing when the
+/// line below them changes.
 class Folding
 {
 public:
-    /// Takes what `CodeDocument::blockFolding()` said of a line.
+    /// The traits for a result of `CodeDocument::blockFolding()`.
     static quint16 traitsOfClass(int folding);
 
-    /// The level of a line in an index.
+    /// The level of a line. The line must be in an index.
     static int indent(const CodeBlockData* line);
 
-    /// Brings the level of a classified line up to date, when those above it
-    /// are. True if something has changed that lines below depend on.
+    /// Updates the level of a line with a class; the lines above must be up to date. Returns true
+    /// if something has changed that lines below depend on.
     static bool updateLine(CodeBlockData* line);
 
-    /// Brings the levels below a line up to date, as far as they depend on it. Gives the
-    /// last line with a class that has changed, `line` itself for none.
+    /// Updates the levels below a line, as far as they depend on it. Returns the last changed line
+    /// with a class, or `line` if none has changed.
     static const CodeBlockData* updateBelow(const CodeBlockData* line);
 
-    /// The nearest line with a level below `level`: at or above a line of an index, or
-    /// strictly below it. Null if there is none.
+    /// The nearest line with a level below `level`: at or above a line, or strictly below it. The
+    /// line must be in an index. Null if there is none.
     static const CodeBlockData* lowerAtOrAbove(const CodeBlockData* line, int level);
     static const CodeBlockData* lowerBelow(const CodeBlockData* line, int level);
 

@@ -15,76 +15,73 @@ class Sprite;
 
 /// One frame of an animation.
 ///
-/// The lines between the frame before and this one belong to it: there its
-/// contact boxes stand. Every setter edits the text, through `change()`; the
-/// node may be another one afterwards.
+/// The lines between the previous frame and this one belong to it: they contain its contact boxes.
+/// Every setter edits the text through `change()`. Afterwards the node may be another one.
 ///
-/// The stage and the time line use the accessors. A host without them gives
-/// `property()`, `setProperty()` and `release()`: as they stand here, the others
-/// tell of no sprite, unmoved and unturned, that stands for one tick, and edit
-/// nothing.
+/// The stage and the time line use the accessors. A host without them only implements `property()`,
+/// `setProperty()` and `release()`. The defaults of all others describe a frame without a sprite,
+/// not moved or rotated, that lasts one tick; the default setters do nothing.
 class ZORV_EXPORT FrameCode : public ParentCode, public PropertyItem
 {
 public:
-    /// How a frame is mirrored.
+    /// How a frame is flipped.
     enum FlipFlag { NoFlip = 0, FlipHorizontally = 1, FlipVertically = 2 };
     Q_DECLARE_FLAGS(Flip, FlipFlag)
 
-    /// Joins the animation above, behind its frames that stand before; without
-    /// one, or behind a group, it has no parent. The lists of boxes belong to
-    /// the grammar and must live as long as the frame; null for a grammar without
-    /// boxes.
+    /// Joins the animation above, behind its earlier frames. Without an animation, or below a
+    /// group, it has no parent. The lists of boxes are owned by the parser and must live as long as
+    /// the frame. They are null for a parser without boxes.
     FrameCode(CodeNode* previous, ContactBoxesCode* first, ContactBoxesCode* second);
 
     /// "Identifier", "Offset", "Delay", "Scale", "Angle", "Flip", "LoopPoint".
     QStringList propertyNames() const override;
 
-    /// The place among the frames of the animation, -1 without one.
+    /// The index among the frames of the animation; -1 without an animation.
     int index() const;
 
-    /// The line behind that of the parent or of the frame before.
+    /// The line after the parent's or the previous frame's line.
     int firstLine() const override;
 
-    /// The picture: the group and the number of a sprite, -1 for none.
+    /// The sprite: its group and number; -1 for none.
     virtual QVariant identifier() const;
     virtual void setIdentifier(const QVariant& identifier);
     virtual int spriteGroup() const;
     virtual int spriteNumber() const;
     virtual void setSprite(int group, int number);
 
-    /// That sprite of the document's project, to be drawn and not kept: it goes when the
-    /// collection changes. Null if the project has none, or the document no project.
+    /// The sprite in the document's project. Use it for drawing only and do not store it: it
+    /// becomes invalid when the collection changes. Null if the project has none, or the document
+    /// no project.
     virtual Sprite* sprite() const;
 
-    /// Where the picture is moved to, in pixels of the game.
+    /// The offset of the sprite in pixels of the game.
     virtual QPoint offset() const;
     virtual void setOffset(const QPoint& offset);
 
-    /// How long the frame stands, in ticks of 1/60 second; negative for ever.
+    /// The duration of the frame in ticks of 1/60 second; negative means forever.
     virtual int delay() const;
     virtual void setDelay(int ticks);
 
-    /// The factors by which the picture is stretched; 1 leaves it as it is.
+    /// The scale factors of the sprite; 1 means original size.
     virtual QPointF scale() const;
     virtual void setScale(const QPointF& scale);
 
-    /// The turn of the picture in degrees, counterclockwise.
+    /// The rotation of the sprite in degrees, counterclockwise.
     virtual double angle() const;
     virtual void setAngle(double degrees);
 
     virtual Flip flip() const;
     virtual void setFlip(Flip flip);
 
-    /// True if the animation starts again here.
+    /// True if the animation loops back to this frame.
     virtual bool isLoopPoint() const;
     virtual void setLoopPoint(bool loopPoint);
 
-    /// The boxes of a kind: the first list of the constructor if bit 0 of
-    /// `type` is set, else the second.
+    /// The boxes of a kind: the constructor's first list if bit 0 of `type` is set, otherwise the
+    /// second.
     virtual ContactBoxesCode* contactBoxes(ContactBoxCode::BoxType type) const;
 
-    /// The lines of the frame have changed: read the boxes anew when they are
-    /// asked for next.
+    /// The lines of the frame have changed: the boxes must be read again when they are next used.
     virtual void boxesChanged();
 
     int childCount() const override;

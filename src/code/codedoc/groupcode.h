@@ -10,55 +10,55 @@ namespace Zorv {
 
 class ValueCode;
 
-/// The head of a group of values, and of sub-groups.
+/// The head of a group of values and sub-groups.
 ///
-/// A new group is in the chain only: where it belongs in the tree is the
-/// grammar's to say, in the constructor of its class. `insertRootChild(this)`
-/// makes it a child of the root; `above->insertChild(this, unsigned(-1))` a
-/// sub-group of the group `above`, which is all that a sub-group takes. Inside of
-/// a document it comes to stand among its siblings in the order of the text.
+/// A new group is only in the chain. The parser decides where it belongs in the
+/// tree, in the constructor of its class: `insertRootChild(this)` makes it a
+/// child of the root, and `above->insertChild(this, unsigned(-1))` a sub-group
+/// of the group `above`. Nothing else is needed for a sub-group. In a document
+/// it is placed among its siblings in text order.
 ///
 /// A group adopts the values that follow it in the chain, up to the next group
-/// or animation; a frame on the way loses its parent. When a group dies, its
-/// values go to the group above it, which turns their order around, or are left
-/// without a parent, and its sub-groups are left without one. A document then
-/// parses the lines that depend on it again, so that all stand where the text
-/// says.
+/// or animation; frames in between lose their parent. When a group is
+/// destroyed, its values go to the group above it, in reverse order, or have no
+/// parent. Its sub-groups have no parent then. A document parses the dependent
+/// lines again, so that everything gets the place that the text implies.
 class ZORV_EXPORT GroupCode : public ParentCode, public NamedCode
 {
 public:
-    /// `group` is the grammar's number for this kind of group, above 0.
+    /// `group` is the parser's number for this kind of group; greater than 0.
     GroupCode(CodeNode* previous, unsigned group);
     ~GroupCode() override;
 
     unsigned group() const { return m_group; }
 
-    /// The values in their order, without the sub-groups.
+    /// The values in order, without the sub-groups.
     QList<ValueCode*> values() const;
 
-    /// What the first value of that name holds, invalid if there is none.
+    /// The value of the first value node with this name; invalid if there is
+    /// none.
     QVariant value(const QString& name) const;
 
-    /// The first value of that name, or null.
+    /// The first value node with this name, or null.
     ValueCode* valueByName(const QString& name) const;
 
-    /// Takes the text of a value out of the document; `index` is its place among
+    /// Removes the text of a value from the document. `index` is its index in
     /// `values()`.
     void removeValue(unsigned index);
 
-    /// The sub-groups in their order.
+    /// The sub-groups in order.
     QList<GroupCode*> subGroups() const;
 
-    /// The line before the next group, or animation. The sub-groups of a group
-    /// belong to it. At the end of the chain it is the number of lines, one
-    /// more than the last line has.
+    /// The line before the next group or animation. Sub-groups are part of
+    /// their group. At the end of the chain this is the number of lines, which
+    /// is one more than the number of the last line.
     int lastLine() const override;
 
-    /// The children are values and sub-groups, in the order of the text.
+    /// The children are values and sub-groups, in text order.
     int childCount() const override;
     int childIndex(CodeNode* child) const override;
 
-    /// `index` must be inside the list; null if the list is empty.
+    /// `index` must be valid; null if the list is empty.
     CodeNode* childAt(unsigned index) const override;
     void insertChild(CodeNode* child, unsigned index) override;
     void removeChild(CodeNode* child) override;
@@ -75,7 +75,7 @@ private:
     unsigned m_group;
 };
 
-/// True if the parent of the group is a group.
+/// True if the parent of this group is a group.
 ZORV_EXPORT bool isSubGroup(const GroupCode* group);
 
 }  // namespace Zorv

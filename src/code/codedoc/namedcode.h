@@ -4,14 +4,14 @@
 
 namespace Zorv {
 
-/// A property item with a name: "DisplayName", which cannot be set, and "Name".
+/// An item with the properties "DisplayName" (read-only) and "Name".
 class ZORV_EXPORT NamedCode : public PropertyItem
 {
 public:
-    /// The name as the code has it.
+    /// The name in the code.
     virtual QString name() const = 0;
 
-    /// The name for the person; `name()` here.
+    /// The name to display; by default `name()`.
     virtual QString displayName() const;
 
     /// Changes the name in the code.

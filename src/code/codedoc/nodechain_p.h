@@ -5,8 +5,8 @@
 
 namespace Zorv {
 
-/// The chain as a balanced tree: what a walk along the chain would find or
-/// count, in logarithmic time.
+/// The chain as a balanced tree. Searching and counting along the chain takes
+/// logarithmic time.
 struct ChainTraits
 {
     static CodeNode*& up(CodeNode* node) { return node->m_chain.up; }
@@ -15,29 +15,30 @@ struct ChainTraits
     static bool pull(CodeNode* node);
 };
 
-/// The chain that a node stands in. Every node is in one, if need be alone.
+/// The chain of a node. Every node is in one, even if it is alone.
 class NodeChain
 {
 public:
-    /// Links `node` right behind `previous`; null leaves it alone in a chain.
+    /// Inserts `node` directly behind `previous`. If that is null, the node
+    /// gets a chain of its own.
     static void link(CodeNode* node, CodeNode* previous);
 
-    /// Takes `node` out; it stands alone afterwards.
+    /// Removes `node` from its chain. It is then alone.
     static void unlink(CodeNode* node);
 
-    /// The nearest node in front of (behind) `node` whose type is in `mask`.
+    /// The nearest node before (behind) `node` whose type is in `mask`.
     static CodeNode* backward(const CodeNode* node, unsigned mask);
     static CodeNode* forward(const CodeNode* node, unsigned mask);
 
     static CodeNode* head(const CodeNode* node);
     static CodeNode* tail(const CodeNode* node);
 
-    /// What stands in front of `node`, from the head of the chain on.
+    /// Counts the nodes before `node`, from the head of the chain.
     static NodeCounts before(const CodeNode* node);
 
     static bool precedes(const CodeNode* a, const CodeNode* b);
 
-    /// The node has another parent than before.
+    /// Call when the parent of a node has changed.
     static void parentChanged(CodeNode* node);
 };
 

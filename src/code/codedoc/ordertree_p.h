@@ -6,18 +6,18 @@
 
 namespace Zorv {
 
-/// A balanced tree that keeps items in an order given by where they were put.
+/// A balanced tree that keeps items in the order in which they were inserted relative to each
+/// other.
 ///
-/// The items carry their own links, so that an item finds its place without a
-/// search and nothing is allocated. The balance is that of a treap whose
-/// priorities are hashes of the addresses. `Traits` gives the links of an item
-/// and sums up its subtree:
+/// The items contain the links, so no search is needed to locate an item, and nothing is allocated.
+/// It is a treap: the priority of an item is a hash of its address. `Traits` accesses the links of
+/// an item and computes the summary of its subtree:
 ///
 ///     static Item*& up(Item*);  static Item*& left(Item*);  static Item*& right(Item*);
 ///     static bool pull(Item*);   // true if the sum of the subtree has changed
 ///
-/// The root is the item without `up`; who needs it at hand passes a variable
-/// that is kept up to date. A null pointer is an empty tree.
+/// The root is the item without `up`. A caller that needs it passes a variable that is kept up to
+/// date. A null root is an empty tree.
 template <class Item, class Traits>
 class OrderTree
 {
@@ -72,7 +72,7 @@ public:
         return up;
     }
 
-    /// Puts `item` right behind `place`; with a null `place`, in front of all.
+    /// Inserts `item` directly behind `place`, or first if `place` is null.
     static void insertAfter(Item*& root, Item* place, Item* item)
     {
         Traits::up(item) = Traits::left(item) = Traits::right(item) = nullptr;
@@ -113,11 +113,11 @@ public:
         pullUp(up);
     }
 
-    /// Tells the tree that what `item` itself adds to the sums has changed.
+    /// Call when the contribution of `item` to the summaries has changed.
     static void update(Item* item) { pullUp(item); }
 
-    /// The nearest item strictly in front of (or behind) `item` for which
-    /// `own` holds; `below` tells of a subtree whether it has such an item.
+    /// The nearest item strictly before (or behind) `item` for which `own` returns true. `below`
+    /// tells if the subtree of an item contains a match.
     template <class Own, class Below>
     static Item* findBackward(Item* item, Own own, Below below)
     {
@@ -158,7 +158,7 @@ public:
         return nullptr;
     }
 
-    /// True if `a` stands in front of `b` in the same tree.
+    /// True if `a` comes before `b` in the same tree.
     static bool precedes(Item* a, Item* b)
     {
         int depthA = depth(a);

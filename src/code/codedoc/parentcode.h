@@ -4,7 +4,7 @@
 
 namespace Zorv {
 
-/// A node that has children.
+/// A node with children.
 class ZORV_EXPORT ParentCode : public CodeNode
 {
 public:
@@ -12,33 +12,34 @@ public:
 
     virtual int childCount() const = 0;
 
-    /// The place of a child, -1 for a stranger.
+    /// The index of a child; -1 if it is not one of them.
     virtual int childIndex(CodeNode* child) const = 0;
 
     virtual CodeNode* childAt(unsigned index) const = 0;
 
-    /// Takes the child from its former parent and makes it one of this node.
-    /// Concrete parents put it at `index` of their list, or at the end.
+    /// Removes the child from its previous parent and makes it a child of this
+    /// node. Derived classes put it at `index` of their list, or at the end.
     virtual void insertChild(CodeNode* child, unsigned index);
 
-    /// Leaves the child without a parent.
+    /// Removes the child, which then has no parent.
     virtual void removeChild(CodeNode* child);
 
-    /// Told by `CodeNode::valueChanged()`; does nothing here.
+    /// Called by `CodeNode::valueChanged()`. Does nothing by default.
     virtual void childChanged(CodeNode* child);
 
-    /// True if the grammar is to look into groups of that number; false here.
+    /// True if the parser should process groups with that number. False by
+    /// default.
     virtual bool groupEnabled(unsigned group) const;
 
 protected:
-    /// Makes a node, mostly this one, a child of the root at the head of its
-    /// chain, behind those of the root's children that stand before it.
+    /// Makes a node, usually the caller itself, a child of the root of its
+    /// chain, behind the root's children that come before it.
     static void insertRootChild(CodeNode* child);
 
 private:
     friend class CodeDocumentPrivate;
 
-    uint m_signature = 0;  ///< of a head: what its line said when it was parsed last
+    uint m_signature = 0;  ///< hash of a head's line when it was last parsed
 };
 
 }  // namespace Zorv

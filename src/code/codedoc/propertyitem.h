@@ -7,19 +7,19 @@
 
 namespace Zorv {
 
-/// Something with named properties, for views that show and edit them.
+/// An object with named properties that views can show and edit.
 class ZORV_EXPORT PropertyItem
 {
 public:
     virtual ~PropertyItem();
 
-    /// The names in the order in which a view shows them.
+    /// The names, in display order.
     virtual QStringList propertyNames() const = 0;
 
-    /// The value of a property, invalid for an unknown name.
+    /// The value of a property; invalid for an unknown name.
     virtual QVariant property(const QString& name) const = 0;
 
-    /// Sets a property; nothing for one that is unknown or cannot be set.
+    /// Sets a property. Does nothing if it is unknown or read-only.
     virtual void setProperty(const QString& name, const QVariant& value) = 0;
 };
 

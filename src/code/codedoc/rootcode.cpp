@@ -49,7 +49,7 @@ void RootCode::destroy()
     }
     CodeNode* node = NodeChain::tail(this);
     while (node != this) {
-        // Releasing a head moves nodes in the tree, never in the chain.
+        // Releasing a head moves nodes in the tree, but never in the chain.
         CodeNode* before = node->previous();
         CodeDocumentPrivate::retire(node);
         node = before;

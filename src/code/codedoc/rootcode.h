@@ -5,35 +5,34 @@
 
 namespace Zorv {
 
-/// The node at the head of a chain; `CodeDocument` is its one concrete form.
+/// The node at the head of a chain. `CodeDocument` is the only concrete class.
 class ZORV_EXPORT RootCode : public ParentCode
 {
 public:
-    /// `tag` is a number of the host that the grammar is free to read.
+    /// `tag` is a number of the host that the parser may read.
     explicit RootCode(short tag);
 
-    /// Leaves children that are still there without a parent.
+    /// The remaining children have no parent afterwards.
     ~RootCode() override;
 
-    /// The number given to the constructor.
+    /// The number passed to the constructor.
     short tag() const { return m_tag; }
 
     int childCount() const override;
 
-    /// -1 for a stranger. Logarithmic, as all access to the children.
+    /// -1 if it is not a child. Logarithmic, like every access to the children.
     int childIndex(CodeNode* child) const override;
 
-    /// Null outside of the list.
+    /// Null if out of range.
     CodeNode* childAt(unsigned index) const override;
 
-    /// Takes the child from its former parent; an `index` outside of the list
-    /// stands for the end.
+    /// Removes the child from its previous parent. An `index` out of range
+    /// means the end.
     void insertChild(CodeNode* child, unsigned index) override;
     void removeChild(CodeNode* child) override;
 
-    /// Releases every node of the chain, from the last to the first, the root
-    /// last. In a document that final `release()` is the one that disposes of
-    /// it.
+    /// Releases every node of the chain, from last to first, with the root at
+    /// the end. In a document that last `release()` deletes the object.
     void destroy();
 
 private:

@@ -33,8 +33,8 @@ void StepTitles::grown()
     m_edits = m_document->availableUndoSteps();
 }
 
-/// An edit that Qt joins with the one before makes the history no longer, and yet drops what was
-/// undone.
+/// If Qt merges an edit with the previous one, the history does not grow, but the undone steps are
+/// dropped all the same.
 void StepTitles::changed()
 {
     m_edits = m_document->availableUndoSteps();

@@ -7,27 +7,27 @@ class QTextDocument;
 
 namespace Zorv {
 
-/// The names of the steps of undo of a text.
+/// The names of the undo steps of a text.
 ///
-/// Qt's history has none. What it tells is how many edits lie behind the present state, so a step
-/// is known by that number before and after it. Edits that come after an undo drop the steps
-/// that were undone, and their names have to go with them, for their numbers are used again.
+/// Qt's history stores no names. It only tells how many edits it contains at the moment, so a step
+/// is identified by this number before and after it. New edits after an undo drop the undone steps.
+/// Their names must be dropped too, because the numbers are used again.
 class StepTitles
 {
 public:
     explicit StepTitles(const QTextDocument* document) : m_document(document) {}
 
-    /// Around the edits of one step. The first name that is not empty is that of the step; one
-    /// without edits is none.
+    /// Call around the edits of one step. The first name that is not empty is used. Without edits
+    /// there is no step.
     void begin(const QString& title);
     void name(const QString& title);
     void end();
 
-    /// The history has grown, or the text has changed in some way.
+    /// The history has grown, or the text has changed in any way.
     void grown();
     void changed();
 
-    QString undone() const;  ///< of the step that undo would take; empty for none
+    QString undone() const;  ///< name of the step that undo would revert; empty if none
     QString redone() const;
 
 private:
@@ -41,8 +41,8 @@ private:
     void dropBehind(int edits);
 
     const QTextDocument* m_document;
-    QVector<Step> m_steps;  // in their order
-    int m_edits = 0;        // behind the state that was seen last
+    QVector<Step> m_steps;  // in order
+    int m_edits = 0;        // length of the history at the last check
     Step m_open{0, 0, {}};
 };
 

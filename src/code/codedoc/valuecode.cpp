@@ -152,7 +152,7 @@ QVariant ValueCode::convertFrom(Type type, const QVariant& value) const
             return value;
         }
         if (isList) {
-            // Whole coordinates are meant: files have been read so ever since.
+            // Integer coordinates are intended: files have always been read this way.
             const QVariantList list = value.toList();
             return QPoint(int(list.value(0).toReal()), int(list.value(1).toReal()));
         }

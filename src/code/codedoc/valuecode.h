@@ -11,22 +11,23 @@
 
 namespace Zorv {
 
-/// A value of the code: the line "name = value" of a grammar.
+/// A value in the code: a line like "name = value".
 ///
-/// Its parent is the group above it; a value behind an animation head has none.
+/// Its parent is the group above it. A value below an animation head has no
+/// parent.
 class ZORV_EXPORT ValueCode : public CodeNode, public NamedCode
 {
 public:
-    /// The form of a value. A grammar chooses what it uses for what; numbers
-    /// without a name here keep a value as it comes.
+    /// The type of a value. The parser chooses how to use them. Numbers without
+    /// a name here store a value unchanged.
     enum Type {
         Text = 3,
-        Choice = 4,    ///< a text out of several
-        Date = 5,      ///< kept as it comes; written in the ISO form
+        Choice = 4,    ///< one text of several
+        Date = 5,      ///< stored unchanged; written in ISO form
         Unsigned = 6,  ///< written by `unsignedText()`
         UnsignedVector = 7,
-        Real = 8,       ///< kept as it comes
-        RealPoint = 9,  ///< a list gives whole coordinates
+        Real = 8,       ///< stored unchanged
+        RealPoint = 9,  ///< a list gives integer coordinates
         RealVector = 10,
         RealPair = 11,
         RealTriple = 12,
@@ -37,23 +38,23 @@ public:
         IntQuad = 17
     };
 
-    /// Joins the nearest group above, behind its values that stand before.
+    /// Joins the nearest group above, behind its earlier values.
     ValueCode(CodeNode* previous, Type type, const QVariant& value);
 
     Type valueType() const { return m_valueType; }
 
     virtual QVariant value() const;
 
-    /// Stores a value, in the form of `valueType()`. Neither tells the parent
-    /// nor edits the text.
+    /// Stores a value, converted to `valueType()`. Does not notify the parent
+    /// and does not edit the text.
     virtual void setValue(const QVariant& value);
 
-    /// Does the same.
+    /// Same as `setValue()`.
     void valueChanged(const QVariant& value) override;
 
-    /// Edits the text so that the line holds `value`: the write-back of a
-    /// grammar, through `change()`. False if the value does not fit, and then
-    /// nothing has changed.
+    /// Edits the text so that the line contains `value`. Implemented by the
+    /// parser with `change()`. Returns false, without any change, if the value
+    /// does not fit.
     virtual bool write(const QVariant& value) = 0;
 
     virtual int asInt() const;
@@ -65,17 +66,16 @@ public:
     virtual QPointF asPointF() const;
     virtual QSize asSize() const;
 
-    /// How the grammar writes a number without sign.
+    /// How this language writes an unsigned number.
     virtual QString unsignedText(unsigned value) const = 0;
 
-    /// `value` in the form of `type`. A list under `RealPoint` gives a `QPoint`
-    /// with its coordinates cut to whole numbers; `Date` and `Real` stay as
-    /// they come.
+    /// Converts `value` to `type`. A list converted to `RealPoint` gives a
+    /// `QPoint` with truncated coordinates. `Date` and `Real` are not changed.
     virtual QVariant convertFrom(Type type, const QVariant& value) const;
 
-    /// `value` as the code writes it, the parts of a list or point divided by
-    /// `separator` (none for the null character) and one blank. While the node
-    /// itself stores a text, the result is that text, whatever is asked.
+    /// `value` as written in the code. The parts of a list or point are
+    /// separated by `separator` (nothing for the null character) and one blank.
+    /// If the node itself stores a text, the result is always that text.
     QString asString(Type type, const QVariant& value, const QChar& separator) const;
 
 private:
