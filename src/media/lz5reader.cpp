@@ -1,3 +1,14 @@
+// Decodes an LZ5 stream.
+//
+// The stream consists of groups: a control byte, then eight packets, a set bit for each copy. A run
+// packet holds the pixel in five bits and the length in the upper three; if these are 0, the next
+// byte has the length minus 8. A copy packet repeats earlier pixels. Its short form has the length
+// minus 1 in six bits; if these are 0 it is the long form, with ten bits of distance and a byte
+// with the length minus 3.
+//
+// A packet is decoded without any checks: ByteSource guarantees that its bytes are readable, and
+// PixelArray has room for what it reads before the start or writes past the end.
+
 #include "media/lz5.h"
 
 #include "media/bytescan_p.h"

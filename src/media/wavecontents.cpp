@@ -1,3 +1,9 @@
+// Finds the samples of a WAV file by its chunks, whatever the sizes in its headers say.
+//
+// The walk goes from chunk to chunk up to "data" and notes the format on the way. The declared size
+// of the samples is then compared with the end of the file: a file that is too short has lost
+// samples, and a size of 0 can mean that the recorder never wrote one.
+
 #include "media/wavecontents.h"
 
 #include "media/imagesize_p.h"

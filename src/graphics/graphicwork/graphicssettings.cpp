@@ -117,7 +117,7 @@ void GraphicsWorkspacePrivate::centerFirstOrigin()
     }
 }
 
-/// A running timer means that the user has just changed the zoom and it is not saved yet: keep it.
+/// A running timer means an unsaved change by the user. It is saved first, so that it is not lost.
 void GraphicsWorkspacePrivate::restoreZoom()
 {
     if (storeTimer.isActive()) {

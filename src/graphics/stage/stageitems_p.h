@@ -94,7 +94,7 @@ inline bool isBoxType(ContactBoxCode::BoxType type)
     return type >= 1 && type <= BoxTypes;
 }
 
-/// What is behind everything.
+/// The background.
 struct Background
 {
     QPoint position;  // of the picture, in model units from the origin

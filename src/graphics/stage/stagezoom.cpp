@@ -1,3 +1,9 @@
+// Zoom levels, and what a change of the zoom moves.
+//
+// Items relative to the origin, a cross or a sprite follow the zoom by themselves. Items in widget
+// pixels are moved here: their distance from the fixed point, the middle of the widget or the
+// origin, is divided by the previous zoom and multiplied by the new one.
+
 #include "graphics/stage/graphicsrenderer.h"
 #include "graphics/stage/graphicsrenderer_p.h"
 #include "graphics/stage/positionmode.h"

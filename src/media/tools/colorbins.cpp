@@ -31,6 +31,7 @@ void ColorBins::coarsen()
             addTo(bin, bin.key, bin.weight);
         }
     }
+    // Clears the lowest remaining bit of each byte.
     m_mask &= m_mask << 1 & ~0x01010101U;
     m_slots.fill(0);
     const std::vector<ColorBin> old = std::exchange(m_bins, {});

@@ -1,3 +1,9 @@
+// Makes the indices of a frame's pixels and chooses its colour table.
+//
+// A changed pixel must have its colour in the table. An unchanged one can be transparent instead;
+// if the table has its colour too, it is marked so that GIFPacker can choose. The global table is
+// tried first. If it lacks a colour, the frame gets a table of its own.
+
 #include "media/tools/gifpicture_p.h"
 
 #include "media/tools/gifpacker_p.h"

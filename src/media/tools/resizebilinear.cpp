@@ -1,3 +1,9 @@
+// Resizing by weighted means, first vertically and then horizontally.
+//
+// The weights depend only on the position, so they are computed once per row and column. Colours
+// are premultiplied by alpha while they are summed, so that transparent pixels contribute no
+// colour.
+
 #include "media/tools/resizebilinear_p.h"
 
 #include "media/tools/mixture_p.h"

@@ -1,3 +1,10 @@
+// Enlarging by 2 or 3 without new colours.
+//
+// A pixel is left plain if the pixels above and below it are equal, or those to its left and right.
+// Otherwise each of its corners takes the colour of the two neighbours beside it, if these are
+// equal. With a factor of 3, the middle of a side also takes a neighbour's colour if a corner next
+// to it did and the pixel beyond the other corner differs from E.
+
 #include "media/tools/scaleepx_p.h"
 
 #include "media/tools/paddedrows_p.h"
