@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <cmath>
 
+// Every number of columns is tried, and the one with the largest pictures wins. The scale is then
+// rounded down to a whole zoom or a whole divisor, so that all pixels are shown at the same size.
+
 namespace Zorv {
 
 namespace {

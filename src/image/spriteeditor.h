@@ -40,7 +40,7 @@ class ZORV_EXPORT SpriteEditor : public FileEditor
 
 public:
     /// `palettes` edits the palettes of the same sprites; the canvas is painted in its current one.
-    /// The editor sets its collection. Not owned; it outlives the editor.
+    /// The editor sets its collection. Not owned; it must outlive the editor.
     explicit SpriteEditor(PaletteEditor* palettes, QObject* parent = nullptr);
     ~SpriteEditor() override;
 
@@ -141,7 +141,7 @@ public:
     bool showSprite(Sprites* sprites, int index);
 
     /// Call when the frame being edited shows another sprite; null for none. With "spr_frame_spr"
-    /// on, that sprite is loaded once, unless the canvas has changes.
+    /// on, it is shown if it differs from the last call, unless the canvas has changes.
     void followFrame(const Sprite* sprite);
 
     /// Puts an image on the canvas as its only layer, and clears the history.
@@ -189,7 +189,7 @@ protected:
     /// added. The default returns false.
     virtual bool takeFiles(Sprites* into, const QStringList& files);
 
-    /// Provides an identifier for each image file about to be added, in the same order. If the
+    /// Provides an identifier for each image file about to be added, in the same order. If their
     /// number differs, `into`, which receives the sprites, numbers them itself. The default
     /// provides none.
     virtual void newIdentifiers(const Sprites& into, const QStringList& files,

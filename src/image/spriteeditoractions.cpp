@@ -79,7 +79,7 @@ void SpriteEditorPrivate::followFrame(const Sprite* wanted)
     }
 }
 
-/// Returns a function that tells, after a dialog, whether the edited sprite is still the same.
+/// Returns a function that checks, after a dialog, whether the edited sprite is still the same.
 /// During a dialog its file can be reloaded or closed.
 std::function<bool()> SpriteEditorPrivate::stillThere() const
 {

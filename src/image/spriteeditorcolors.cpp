@@ -11,8 +11,10 @@
 // The canvas is shown in the colours of the palette panel's grid. These are one of:
 // - the current palette of the panel, either the sprite's or another one just to look at,
 // - the colours of the picture itself, if the sprite has no palette,
-// - colours that a host previews. Only the sprite's own palette and the picture's own colours may
-//   decide pixels. Whatever computes pixels ends a preview first.
+// - colours that a host previews.
+//
+// Only the sprite's own palette and the picture's own colours may decide pixels. Whatever computes
+// pixels ends a preview first.
 
 namespace Zorv {
 

@@ -6,6 +6,9 @@
 #include <limits>
 #include <tuple>
 
+// The nearest entry of a visible colour may be a transparent one, and the pixel would vanish. Then
+// the nearest entry that is not transparent is searched instead.
+
 namespace Zorv {
 
 namespace {

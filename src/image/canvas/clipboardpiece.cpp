@@ -10,6 +10,14 @@
 #include <algorithm>
 #include <array>
 
+// Copying keeps an indexed piece indexed where possible. If some pixels of the rectangle are not
+// selected it needs a transparent entry: the palette's own one, or else an index that the piece
+// does not use. Only without either it becomes true colour.
+//
+// Pasting an indexed piece onto indices maps its colour table once: an index with the same colour
+// in both palettes stays, any other takes the nearest entry. True colours are mapped pixel by
+// pixel.
+
 namespace Zorv {
 
 namespace {

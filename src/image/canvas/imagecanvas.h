@@ -107,8 +107,8 @@ public:
     /// `ImagePalette::index()`, and all of it is one step, "setFormat".
     bool setFormat(Format format, bool record);
 
-    /// The same, but transparent pixels become transparent and no others do, as far as the palette
-    /// has entries for it.
+    /// Like `setFormat()` with `record`, but transparent pixels become transparent and no others
+    /// do, as far as the palette has entries for it.
     bool convertTo(Format format);
 
     double zoomLevel() const;
@@ -221,7 +221,7 @@ signals:
     void activeLayerChanged(Zorv::ImageLayer* layer);
     void axisChanged();
 
-    /// A stroke was ended, by whatever cause. A tool that paints stops now.
+    /// A stroke was ended, whatever ended it. A tool that paints stops now.
     void strokeEnded();
 
     /// Something a user asked for is impossible; `message` says why.

@@ -11,6 +11,10 @@
 #include <limits>
 #include <utility>
 
+// Signals are collected while a batch is open: `hold()` and `letGo()` nest, changes are merged into
+// `notices`, and the last `letGo()` sends each signal once. So a change of many layers leads to one
+// repaint.
+
 namespace Zorv {
 
 ImageCanvasPrivate::ImageCanvasPrivate(ImageCanvas* canvas)

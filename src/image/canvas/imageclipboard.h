@@ -10,10 +10,10 @@ class ImageCanvas;
 
 /// Copies pixels of a canvas to the clipboard and back. Other programs see a PNG file.
 ///
-/// A copy is the rectangle around the selected pixels; the others in it become transparent. An
-/// indexed canvas gives an indexed file with its palette; the file also stores the place of the
-/// piece. True colours are used for a true-colour canvas, and for an indexed one that needs a
-/// transparent entry but has none and uses all 256.
+/// A copy is the rectangle around the selected pixels; pixels in it that are not selected become
+/// transparent. An indexed canvas gives an indexed file with its palette; the file also stores the
+/// place of the piece. True colours are used for a true-colour canvas, and for an indexed one that
+/// needs a transparent entry but has none and uses all 256.
 ///
 /// Pasting accepts a PNG or BMP file, or an image of this program or of the system, and converts it
 /// to the format of the canvas. A pixel keeps its index if file and canvas have the same colour for

@@ -76,9 +76,9 @@ public:
     /// Removes the remap: all pixels are painted again.
     void clearRemap();
 
-    /// Marks pixels that a remap has changed already; it skips them and marks new ones. So a stroke
-    /// of many points and lines maps each pixel once. Owned by the caller, who sets null when the
-    /// stroke ends.
+    /// The pixels that a remap has changed already: it skips them, and marks each one it changes.
+    /// So a stroke of many points and lines maps each pixel once. Owned by the caller, who sets
+    /// null when the stroke ends.
     void setMarks(PixelMarks* marks);
 
     void setAnnounce(const Announce& announce);

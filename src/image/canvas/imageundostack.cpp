@@ -16,8 +16,9 @@
 // - When the unpacked steps exceed a quarter of the budget, each new step packs (compresses) some
 //   of the oldest ones. `firstLoose` is how far this has come.
 // - Over the budget, the steps farthest from the present are packed completely.
-// - If that is not enough for a new step, the oldest steps are dropped. Undo and redo exchange data
-//   with the canvas; the step that moved is then measured anew.
+// - If that is not enough for a new step, the oldest steps are dropped.
+//
+// Undo and redo exchange data with the canvas, so the step that moved is measured again.
 //
 // A pending stroke is not a step yet. Operations call `finishPending()` first, which pushes it.
 // Change signals are sent only by `tell()`, which compares with what was sent last.

@@ -13,9 +13,9 @@ class ImageUndoCommand;
 class ImageUndoStackPrivate;
 struct UndoSteps;
 
-/// The history of a canvas: like a `QUndoStack`, but with a memory limit.
+/// The history of a canvas: like a `QUndoStack`, but with a memory limit, its budget.
 ///
-/// Over the limit, the steps farthest from the present are packed (compressed). If that is not
+/// Over the budget, the steps farthest from the present are packed (compressed). If that is not
 /// enough when a step is added, the oldest steps are dropped, whole macros at a time. The last step
 /// is always kept. If the clean state was before a dropped step, no state is clean until
 /// `setClean()`. Undo and redo never move over a step that does nothing.
@@ -26,7 +26,7 @@ class ZORV_EXPORT ImageUndoStack : public QObject
     Q_OBJECT
 
 public:
-    /// The limit of a new stack: 256 MB.
+    /// The budget of a new stack: 256 MB.
     static constexpr qint64 DefaultBudget = qint64(256) << 20;
 
     explicit ImageUndoStack(QObject* parent = nullptr);
@@ -73,7 +73,7 @@ public:
     int count() const;
     int index() const;
 
-    /// The bytes that all steps hold, and their limit.
+    /// The bytes that all steps hold, and how many they may hold.
     qint64 byteSize() const;
     qint64 budget() const;
     void setBudget(qint64 bytes);

@@ -4,6 +4,10 @@
 #include <cstring>
 #include <utility>
 
+// Tiles are kept in a map from tile number (row by row) to the bytes of the tile without padding.
+// `exchange()` swaps them with the image: after an undo the same object holds what redo needs. A
+// packed tile is unpacked by that, and the new one is not packed before the next `pack()`.
+
 namespace Zorv {
 
 namespace {

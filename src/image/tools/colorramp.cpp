@@ -5,6 +5,9 @@
 #include <algorithm>
 #include <cstdlib>
 
+// From the entry the search extends in both directions while each step gets lighter, then again
+// while each step gets darker. The longer result is the ramp.
+
 namespace Zorv {
 
 namespace {
