@@ -14,6 +14,10 @@
 #include <QTextBlock>
 #include <algorithm>
 
+// All texts share one editor, so cursor, selection and scroll position are saved with the document
+// when it leaves the editor, and restored when it returns. While another editor shows something
+// else there, `isShown()` is false and the saved position counts.
+
 namespace App {
 
 using Family::FamilyDocument;

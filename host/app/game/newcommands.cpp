@@ -46,7 +46,7 @@ bool NewCommands::hasGame() const
     return m_services.session->game();
 }
 
-/// Suggests the folder of the open game, or the user's documents.
+/// Suggests the folder around the open game, or the user's documents.
 void NewCommands::newGame()
 {
     const QString open = m_services.session->folder();

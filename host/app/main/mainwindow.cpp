@@ -92,7 +92,7 @@ const QLatin1String Modified("[*]");
 
 const QString SeenKey = QStringLiteral("panels_seen");
 
-// Initial heights of these panels when they are first shown together.
+// Heights of these panels when they are first shown.
 constexpr int RoomOfLayers = 200;
 constexpr int RoomOfPalette = 300;
 

@@ -27,6 +27,11 @@
 
 #include <algorithm>
 
+// A fix is computed from the results of the check, so the check must have caught up with all edits
+// first (`ProblemWatch::settle()`). A fix holds positions in a text or names of a file. Before it
+// is applied, its file and project are opened, and the text is compared: if it has changed
+// meanwhile, nothing is done and a message asks to try again.
+
 namespace App {
 
 using Family::FamilyDocument;
@@ -73,7 +78,8 @@ Operations::FixSource QuickFixes::source() const
             [this](const QString& path) { return textOf(path); }};
 }
 
-/// Offers nothing before everything is checked: the index could be out of date.
+/// Call only when everything has been checked (`settle()`): otherwise the index could be out of
+/// date.
 QVector<Fix> QuickFixes::fixesOf(const Family::Problems& problems) const
 {
     const Operations::FixSource known = source();

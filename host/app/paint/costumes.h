@@ -46,7 +46,7 @@ private:
 
     Zorv::SpriteEditor* m_editor;
     Zorv::PalettePreviews* m_panel;
-    QVector<Zorv::Palette*> m_palettes;  // in panel order; only compared, never dereferenced
+    QVector<Zorv::Palette*> m_palettes;  // in panel order; `isShown()` before use
 };
 
 }  // namespace App

@@ -19,6 +19,13 @@
 #include <QDir>
 #include <QTextBlock>
 
+// The index of names is created on the first request and brought up to date before each use:
+// modified texts are passed to it, and texts saved or closed since are taken back so that their
+// files count again. Updating shows progress and processes events. If the game is closed or
+// replaced meanwhile, `m_index` differs from the copy held by the caller, which then gives up.
+//
+// The marks in the text are computed from the list of uses for the document in front.
+
 namespace App {
 
 using Family::FamilyDocument;
@@ -86,7 +93,7 @@ QVector<PanelPlace> ReferenceCommands::places()
     return {PanelPlace::of(m_panel)};
 }
 
-/// The name at the cursor, else the name in its line: a line has at most one.
+/// The name in the cursor's line: a line has at most one.
 Subject ReferenceCommands::subjectAtCursor() const
 {
     const FamilyDocument* document = m_services.parts->document();

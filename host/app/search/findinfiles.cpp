@@ -30,6 +30,10 @@
 #include <QToolButton>
 #include <QTreeView>
 
+// Worker threads search the files (`GameTexts`), with a matcher each. Findings arrive in batches,
+// also after the first run: when a file or an open text changes, only that file is searched again.
+// A search stops when there are more hits than the list can hold.
+
 namespace App {
 
 using Operations::FindPattern;

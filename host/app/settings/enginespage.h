@@ -28,7 +28,7 @@ public:
     void read() override;
     bool write(QString* error) override;
 
-    /// Does nothing: there are no default engines.
+    /// The default is no engines: empties the list.
     void restoreDefaults() override;
 
 private:
