@@ -14,7 +14,7 @@ using Family::GameProgram;
 
 namespace {
 
-// A path has characters that a key cannot have.
+// A hash, because paths may contain characters that are not allowed in keys.
 QString keyOf(const GameProgram& program)
 {
     const QByteArray path =

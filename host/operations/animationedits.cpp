@@ -38,7 +38,7 @@ int placeOf(const QString& reference, int count, QString* error)
     return -1;
 }
 
-/// At the end of a text, with an empty line in front.
+/// Separates a new part from the end of the text by an empty line.
 QString gapFor(const QTextDocument& text)
 {
     const QTextBlock last = text.lastBlock();
@@ -77,7 +77,7 @@ QString freeIdentifier(const FamilyAnimations* list, const QString& identifier)
     const QSet<QString> taken(all.begin(), all.end());
     bool isNumber = false;
     const qint64 start = identifier.toLongLong(&isNumber);
-    // One more candidate than there are animations: one of them is free.
+    // One more candidate than there are animations, so one of them is free.
     for (qint64 i = 1; i <= all.size() + 1; ++i) {
         const QString candidate = isNumber ? QString::number(start + i)
                                            : identifier + QLatin1Char('-') + QString::number(i + 1);
@@ -150,7 +150,7 @@ QVector<int> ticksOf(const QVector<int>& milliseconds)
 {
     constexpr int TicksPerSecond = 60;
     constexpr int Second = 1000;
-    constexpr qint64 MostTicks = 32767;  // what a frame can have
+    constexpr qint64 MostTicks = 32767;  // maximum of a frame
     QVector<int> ticks;
     qint64 sum = 0;
     qint64 end = 0;

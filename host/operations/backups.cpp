@@ -30,7 +30,7 @@ using Family::FamilyProject;
 
 namespace {
 
-const int MaxNameBytes = 200;  // the time stands in front of the name
+const int MaxNameBytes = 200;  // leaves room for the time in front of the name
 const int CompareBlock = 128 * 1024;
 
 /// Makes the texts of this file known to translators.
@@ -47,7 +47,7 @@ QString folderOf(const FamilyParentProject& game, const QString& backup)
 bool isSame(const QString& a, const QString& b)
 {
     QFile left(a), right(b);
-    // A pipe is as long as an empty file, and to open it may take for ever.
+    // A pipe has size 0 like an empty file, but opening it may block forever.
     if (!QFileInfo(a).isFile() || !QFileInfo(b).isFile() || left.size() != right.size() ||
         !left.open(QIODevice::ReadOnly) || !right.open(QIODevice::ReadOnly)) {
         return false;
@@ -74,7 +74,7 @@ bool copyIntoBackup(const FamilyParentProject& game, const QString& relative, co
     return copyFile(disk, game.absolutePath() + relative, disk, target, &error) && error.isEmpty();
 }
 
-/// Copies those files that the backup lacks; gives those of which that failed.
+/// Copies the files that are not in the backup yet; returns those that failed.
 QStringList addToBackup(const FamilyParentProject& game, const QStringList& files,
                         const QString& folder)
 {
@@ -101,14 +101,14 @@ bool isMissing(const FamilyParentProject& game, const QString& file)
 void sortFailures(const FamilyParentProject& game, const QStringList& files, BackupResult* result)
 {
     for (const QString& named : files) {
-        // A shared file comes with the way to it from its project.
+        // The path of a shared file is relative to its project and contains "..".
         const QString file = QDir::cleanPath(named);
         (isMissing(game, file) ? result->missing : result->failed).append(file);
     }
 }
 
-/// The name, or with a number behind if a backup of this moment has it: two of one name and
-/// second would share a folder, and the files of the first be replaced.
+/// Appends a number if a backup of this second has the name already. Both would share a folder, and
+/// the files of the first one would be overwritten.
 QString freeName(const FamilyParentProject& game, const QString& name)
 {
     const QDateTime now = QDateTime::currentDateTime();
@@ -127,7 +127,7 @@ QString freeName(const FamilyParentProject& game, const QString& name)
     return free;
 }
 
-/// What must be kept before a restore: files that it replaces, and unsaved changes.
+/// The files to protect before a restore: those that it replaces, and those with unsaved changes.
 QStringList filesAtRisk(const FamilyParentProject& game, const QVector<RestoredFile>& restored)
 {
     QStringList files;
@@ -148,7 +148,7 @@ QStringList filesAtRisk(const FamilyParentProject& game, const QVector<RestoredF
     return files;
 }
 
-/// Makes a backup that is kept if `isComplete` says so; that gets the folder of the files.
+/// Makes a backup and deletes it again unless `isComplete`, called with its folder, returns true.
 BackupResult makeBackupIf(FamilyParentProject* game, const QString& wantedName,
                           const std::function<bool(const QString&, BackupResult*)>& isComplete)
 {
@@ -322,7 +322,8 @@ BackupResult restoreBackup(FamilyParentProject* game, const QString& folder, boo
     if (!result.error.isEmpty()) {
         return result;
     }
-    // What another program writes from here on is in no backup: it stays.
+    // Files that another program changes from now on are not in the safety backup, so they must not
+    // be replaced.
     std::vector<std::unique_ptr<Zorv::FileChange>> changes;
     for (const RestoredFile& file : restored) {
         changes.push_back(std::make_unique<Zorv::FileChange>(game->absolutePath() + file.path));

@@ -17,7 +17,7 @@ using Family::FamilyDocument;
 
 namespace {
 
-// A text and its tree take some twenty times the size of the file.
+// A text and its tree take about twenty times the size of the file.
 const qint64 MaxFileSize = qint64(256) * 1024 * 1024;
 
 /// Makes the texts of this file known to translators.
@@ -26,7 +26,7 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(Operations::DocumentFile)
 };
 
-// As a person in the current folder would name it.
+// The path relative to the current folder, if the file is inside it.
 QString shownName(const Zorv::CodeDocument* document)
 {
     const QString path = document->fileName();
@@ -83,8 +83,8 @@ int faithfulCodec(const QString& fileName)
     }
     const QByteArray data = device->readAll();
     archive->closeFile(device);
-    // Some characters never come back out of a document, whatever the codec
-    // says: each candidate is tried. The last one reads no byte as one of them.
+    // Try each candidate: a document cannot preserve some characters, whatever the codec.
+    // ISO-8859-1 is last because it never decodes a byte to one of them.
     for (int codec :
          {Zorv::TextCodecs::faithfulCodec(data), Zorv::TextCodecs::index("ISO-8859-1")}) {
         FamilyDocument trial(Family::fileKindOf(fileName));
@@ -169,7 +169,7 @@ Saved saveDocument(Zorv::CodeDocument* document, const QString& fileName, QStrin
     }
     *error = document->errorString();
     document->setCodecId(oldCodec);
-    // No signal will come for a write that did not happen.
+    // A failed write emits no signal that ends the pause of the watch, so end it here.
     document->pauseWatch(false);
     return Saved::Failed;
 }

@@ -77,7 +77,7 @@ bool saveEngines(QSettings& settings, const QVector<Zorv::EngineInfo>& engines)
     }
     settings.endArray();
     settings.sync();
-    // What was wrong with the file when it was read is over: it is written anew.
+    // Ignore format errors from reading the old file: it has been rewritten.
     return settings.status() != QSettings::AccessError;
 }
 

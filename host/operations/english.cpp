@@ -3,8 +3,8 @@
 #include <QCoreApplication>
 #include <QTranslator>
 
-// The library is a static one: nothing else brings its resources in. Qt's macro names a
-// function of the global namespace.
+// The library is linked statically, so nothing else loads its resources. Qt's macro requires a
+// function in the global namespace.
 static void loadEnglish()
 {
     Q_INIT_RESOURCE(english);

@@ -22,7 +22,7 @@ using Family::FamilyEngineModel;
 
 namespace {
 
-/// No file of the folder needs more; a larger one is the person's.
+/// Shipped files are smaller; a larger one belongs to the user.
 constexpr qint64 MaxSize = 4 * 1024 * 1024;
 
 QByteArray hashOf(const QByteArray& bytes)
@@ -99,7 +99,7 @@ private:
         }
     }
 
-    /// A line for each file: its hash, a blank, its name.
+    /// One line per file: hash, blank, name.
     void readRecord()
     {
         const QList<QByteArray> lines = read(recordName).split('\n');

@@ -16,7 +16,7 @@ namespace {
 
 constexpr int LongestWait = 20000;
 constexpr int Attempts = 8;
-constexpr int PauseMilliseconds = 15;  // more with each attempt
+constexpr int PauseMilliseconds = 15;  // multiplied by the number of the attempt
 
 }  // namespace
 

@@ -22,7 +22,7 @@ bool addFile(QCryptographicHash* sum, const QString& fileName)
     return file.open(QIODevice::ReadOnly) && sum->addData(&file);
 }
 
-/// Names divide the bytes of files, and cannot be taken for them: each tells a length.
+/// Each file is preceded by its name and size, so that moving bytes between files changes the hash.
 bool addFolder(QCryptographicHash* sum, const QString& folder)
 {
     const QFileInfoList files = filesIn(folder);

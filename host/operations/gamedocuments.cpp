@@ -35,7 +35,7 @@ public:
     {
     }
 
-    /// The paths of the code files that it names.
+    /// Visits a document; returns the paths of the code files that it names.
     QStringList open(const QString& fileName)
     {
         const QString path = QDir::cleanPath(fileName);

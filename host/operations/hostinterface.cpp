@@ -28,7 +28,7 @@ public:
     void finish() override { delete this; }
 };
 
-// The settings of the library, as they are at first.
+// The default settings of the library.
 const QHash<QString, QVariant>& defaults()
 {
     static const QHash<QString, QVariant> table{
@@ -62,7 +62,7 @@ const QHash<QString, QVariant>& defaults()
         {QStringLiteral("cache_type"), 1},
         {QStringLiteral("undo_megabytes"), 256},
         {QStringLiteral("pal_move"), 0},
-        // Rulers write in the inverse of the first on both.
+        // Rulers use the inverse of the first of these two colours, on both.
         {QStringLiteral("back_start"), QColor(0x2e, 0x33, 0x3b)},
         {QStringLiteral("back_end"), QColor(0x4a, 0x52, 0x5e)},
         {QStringLiteral("background_type"), 0},
@@ -123,7 +123,7 @@ QVariant HostInterface::storedOption(const QString& key) const
 {
     QVariant value = m_settings ? m_settings->value(key) : m_options.value(key);
     const QVariant fallback = defaultOption(key);
-    // A settings file gives texts for truth values and numbers.
+    // A settings file stores booleans and numbers as text.
     if (value.isValid() && fallback.isValid() && !value.convert(int(fallback.type()))) {
         value = QVariant();
     }

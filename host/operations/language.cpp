@@ -9,8 +9,8 @@
 #include <memory>
 #include <vector>
 
-// The library is a static one: nothing else brings its resources in. Qt's macro names a
-// function of the global namespace.
+// The library is linked statically, so nothing else loads its resources. Qt's macro requires a
+// function in the global namespace.
 static void loadTranslations()
 {
     Q_INIT_RESOURCE(translations);

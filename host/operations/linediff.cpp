@@ -4,14 +4,21 @@
 
 #include <algorithm>
 
+// First, equal lines at both ends of the texts are matched. Then every line that occurs exactly
+// once in each text becomes an anchor. Of the anchors, the longest sequence in the same order on
+// both sides is kept (by patience sorting), and the parts between them are matched recursively. A
+// part without unique lines is matched by Myers' greedy algorithm, which finds the smallest
+// difference. If that exceeds MaxDistance, the rest of the part counts as different. So the time
+// stays bounded even if a file was completely rewritten.
+
 namespace Operations {
 
 namespace {
 
-// Beyond it the search for the smallest difference of a stretch is given up.
+// Above this number of changes, the search for the smallest difference gives up.
 const int MaxDistance = 400;
 
-// Lines that are alone only in a part of a part, and so on.
+// Maximum recursion depth of the search for unique lines.
 const int MaxDepth = 32;
 
 struct Range
@@ -23,8 +30,8 @@ struct Range
 
 using LinePair = QPair<int, int>;
 
-// Of the two ways to diagonal k, the one that leads further: by a new line from
-// the diagonal above, or by an old one from that below.
+// Chooses the better of two ways to diagonal k: an inserted line from the diagonal above, or a
+// deleted line from the diagonal below.
 bool isNewLine(const QVector<int>& row, int at, int k, int distance)
 {
     return k == -distance || (k != distance && row[at - 1] < row[at + 1]);
@@ -38,8 +45,8 @@ int furthestStart(const QVector<int>& row, int at, int k, int distance)
     return isNewLine(row, at, k, distance) ? row[at + 1] : row[at - 1] + 1;
 }
 
-/// The longest row of pairs that ascends on both sides, out of pairs that ascend
-/// on the first, by patience sorting.
+/// The longest subsequence of pairs that ascends on both sides, by patience sorting. The pairs
+/// ascend on the first side already.
 QVector<LinePair> longestAscending(const QVector<LinePair>& pairs)
 {
     QVector<int> previous;
@@ -63,9 +70,7 @@ QVector<LinePair> longestAscending(const QVector<LinePair>& pairs)
     return result;
 }
 
-/// Marks the lines that differ. First lines that are alone of their kind on both
-/// sides are matched, in the longest order that they have in common; then what
-/// lies between is searched for the smallest difference.
+/// Matches the lines of both texts; what has no partner differs.
 class LineMatcher
 {
 public:
@@ -81,9 +86,9 @@ private:
     void matchSmallest(Range a, Range b);
     void pair(int oldLine, int newLine) { m_partner[oldLine] = newLine; }
 
-    QVector<int> m_old;  ///< a number for each line, equal for equal texts
+    QVector<int> m_old;  ///< a number for each line, the same for equal texts
     QVector<int> m_new;
-    QVector<int> m_partner;  ///< of each old line: the new line, -1 for none
+    QVector<int> m_partner;  ///< for each old line: the new line, -1 for none
 };
 
 LineMatcher::LineMatcher(const QVector<QStringRef>& oldLines, const QVector<QStringRef>& newLines)
@@ -138,7 +143,7 @@ void LineMatcher::trim(Range* a, Range* b)
     }
 }
 
-// The lines that are alone of their kind on both sides.
+// The lines that occur exactly once on each side.
 QVector<LinePair> LineMatcher::uniquePairs(Range a, Range b) const
 {
     struct Place
@@ -166,9 +171,9 @@ QVector<LinePair> LineMatcher::uniquePairs(Range a, Range b) const
     return pairs;
 }
 
-// Myers' greedy search: row[k] is the furthest old line on diagonal k that a
-// number of changes leads to; there is a row for each number, as it was before.
-// No rows if the search is given up.
+// Myers' greedy search. reach[k] is the furthest old line on diagonal k after a number of changes.
+// Returns a copy of it for each number of changes, taken before the step. Empty if the search gives
+// up.
 QVector<QVector<int>> LineMatcher::searchSmallest(Range a, Range b) const
 {
     const int limit = std::min(MaxDistance, a.size() + b.size());
@@ -205,7 +210,7 @@ void LineMatcher::matchSmallest(Range a, Range b)
         while (x > start) {
             pair(a.begin + --x, b.begin + --y);
         }
-        // One change back: a new line keeps x, an old one keeps y.
+        // One change back: an insertion keeps x, a deletion keeps y.
         if (isNewLine(row, at, k, distance)) {
             --y;
         } else {

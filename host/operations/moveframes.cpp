@@ -48,7 +48,7 @@ QStringList charactersOf(const QString& path, QStringList* errors)
     return files;
 }
 
-/// The lines of a node as they stand.
+/// The lines of a node, unchanged.
 QString linesOf(const Zorv::CodeNode* node)
 {
     QString text;
@@ -117,7 +117,7 @@ QVector<CharacterMoves> moveFrames(const QString& path, QStringList* errors)
     return result;
 }
 
-/// The move and the animation alone are read as a character: the rest does not change its ticks.
+/// Builds a character of only the move and its animation: the rest does not affect the ticks.
 std::optional<Rules::MoveFacts> moveFactsOf(const Family::AnimationNode* animation,
                                             const Family::ProjectNames& names)
 {

@@ -44,8 +44,7 @@ QString linesOf(const FamilyDocument* document, const Zorv::CodeNode* node)
 
 QVector<TreeEntry> nodeTree(const FamilyDocument* document)
 {
-    // The chain has the nodes in the order of the text; a box stands in front
-    // of its frame there.
+    // The node chain is in text order, but there a contact box precedes its frame.
     QHash<const Zorv::CodeNode*, QVector<const Zorv::CodeNode*>> children;
     const auto* root = static_cast<const Zorv::CodeNode*>(document);
     for (const Zorv::CodeNode* node = root->next(); node; node = node->next()) {

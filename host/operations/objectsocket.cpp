@@ -14,11 +14,11 @@ ObjectSocket::ObjectSocket(QLocalSocket* socket, QObject* parent)
     connect(m_socket, &QLocalSocket::readyRead, this, &ObjectSocket::readLines);
     connect(m_socket, &QLocalSocket::disconnected, this, &ObjectSocket::close);
     connect(m_socket, &QLocalSocket::errorOccurred, this, &ObjectSocket::close);
-    // What was sent before there was anybody to hear the signal.
+    // Reads data that arrived before anyone was connected to the signal.
     QMetaObject::invokeMethod(this, &ObjectSocket::readLines, Qt::QueuedConnection);
 }
 
-/// A socket that goes tells so, to an object that is half gone.
+/// The socket emits signals while it is destroyed, but this object is already half destroyed then.
 ObjectSocket::~ObjectSocket()
 {
     m_socket->disconnect(this);

@@ -1,7 +1,7 @@
-// A file of settings has sections of lines "key=value". Bytes beyond those of a name are
-// "%XX" or "%UXXXX" in a key, and a backslash there is a slash; in a value they are escapes as in
-// C. A value with commas outside of quotes is a list. One that begins with "@" is no text: its
-// bytes stand in brackets, behind the name of the type. A second "@" stands for itself.
+// A settings file has sections with lines "key=value". In keys, special characters are "%XX" or
+// "%UXXXX", and a backslash means a slash. In values, escapes are as in C. A value with commas
+// outside of quotes is a list. A value that starts with "@" is not a text: its bytes are in
+// brackets after the type name. "@@" is a literal "@".
 
 #include "operations/settingsformat.h"
 
@@ -82,7 +82,7 @@ QString unescapedKey(const QByteArray& text)
 QByteArray escapedText(const QString& value)
 {
     QByteArray text;
-    bool isOpen = false;  // a digit would belong to the code in front of it
+    bool isOpen = false;  // after a \x escape: a hex digit would be read as part of it
     for (const QChar c : value) {
         const char* code =
             c.unicode() && c.unicode() < 128 ? std::strchr(Codes, c.unicode()) : nullptr;
@@ -143,7 +143,7 @@ QByteArray escapedValue(const QVariant& value)
     }
 }
 
-/// Takes a text apart, a value from comma to comma at a time.
+/// Parses a value, item by item between commas.
 class ValueReader
 {
 public:
@@ -163,7 +163,7 @@ private:
     {
         QString value;
         bool isInQuotes = false;
-        int kept = 0;  // blanks behind it are none of the value
+        int kept = 0;  // trailing blanks after this position are dropped
         for (; m_at < m_text.size(); ++m_at) {
             const char c = m_text.at(m_at);
             if (!isInQuotes && (c == ',' || c == ';')) {
@@ -253,8 +253,8 @@ QString sectionOf(const QByteArray& name)
     return (isNamedSo ? QString::fromLatin1(General) : unescapedKey(name)) + QLatin1Char('/');
 }
 
-/// What is no setting is passed over: on false, QSettings would take none of the others either, and
-/// the next change would write the file without them.
+/// Skips invalid lines. If it returned false, QSettings would discard all settings, and the next
+/// change would write a file without them.
 bool readSettings(QIODevice& device, Settings& settings)
 {
     QString section;
@@ -272,7 +272,8 @@ bool readSettings(QIODevice& device, Settings& settings)
     return true;
 }
 
-// The device is a QSaveFile, which does not look at what it keeps in its buffer.
+// The device is a QSaveFile. It does not check whether its buffer could be written, hence the
+// flush.
 bool writeSettings(QIODevice& device, const Settings& settings)
 {
     QMap<QString, QByteArray> sections;

@@ -52,7 +52,7 @@ QStringList moveSharedFiles(FamilyParentProject* game, const QString& oldRoot)
         documents += project->documents();
         named += project->sharedFiles();
     }
-    // Of two documents of one file the one with changes is written last.
+    // If two documents have the same file, the modified one is saved last, so it wins.
     std::stable_partition(documents.begin(), documents.end(),
                           [](const FamilyDocument* document) { return !document->isModified(); });
     for (FamilyDocument* document : qAsConst(documents)) {

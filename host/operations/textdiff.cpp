@@ -11,7 +11,8 @@ namespace {
 
 const int Context = 3;
 
-// With their line ends, so that a last line without one differs from one with it.
+// Lines include their line ends, so that a missing line end at the end of the text counts as a
+// difference.
 QVector<QStringRef> linesOf(const QString& text)
 {
     QVector<QStringRef> lines;
@@ -33,12 +34,12 @@ QString marked(char mark, const QStringRef& line)
 
 QString rangeText(int start, int count)
 {
-    // An empty range is named by the line in front of it.
+    // An empty range is given by the line before it.
     const QString line = QString::number(count == 0 ? start : start + 1);
     return count == 1 ? line : line + QLatin1Char(',') + QString::number(count);
 }
 
-/// Several runs with the lines around them.
+/// Several runs with the context lines around them.
 class Hunk
 {
 public:

@@ -60,8 +60,8 @@ qint64 areaInside(const QRect& place, const QVector<QRect>& rects)
     return coveredArea(parts);
 }
 
-/// What of each attack box the body boxes cover. Boxes are compared with each other, so that very
-/// many are left alone.
+/// Computes the part of each attack box that body boxes cover. It compares every pair, so it skips
+/// frames with very many boxes.
 void compareWithBody(const BoxesInFrame& body, BoxesInFrame* attack, qint64 BoxInFrame::*result)
 {
     if (std::max(attack->boxes.size(), body.boxes.size()) > MostComparedBoxes) {
@@ -127,7 +127,7 @@ int reachOf(const FrameBoxReport& frame)
     return reach;
 }
 
-/// The frames that are shown, in their order.
+/// The visible frames, in order.
 QVector<int> shownFrames(const QVector<FrameBoxReport>& frames)
 {
     QVector<int> shown;

@@ -3,12 +3,18 @@
 #include <algorithm>
 #include <vector>
 
+// The area of a union of rectangles by sweeping a vertical line from left to right. Every rectangle
+// adds its vertical range to the line at its left side and removes it behind its right side.
+// Between two sides the covered length is constant, so each step adds length times distance. The
+// covered length is kept in a segment tree over all top and bottom coordinates: a node counts the
+// rectangles that cover its whole range, and its length follows from its two children. Adding or
+// removing a range takes log n.
+
 namespace Operations {
 
 namespace {
 
-/// How much of a line rectangles cover, while they come and go. A tree over the places at which one
-/// of them begins or ends.
+/// The covered length of the sweep line: a segment tree over the ends of all ranges.
 class CoveredLine
 {
 public:
@@ -19,7 +25,7 @@ public:
 
     qint64 length() const { return m_nodes.empty() ? 0 : m_nodes[1].length; }
 
-    /// `count` is 1 for one that comes, -1 for one that goes.
+    /// `count` is 1 to add a range, -1 to remove it.
     void add(int from, int to, int count)
     {
         add(1, {0, int(m_places.size()) - 1}, {indexOf(from), indexOf(to)}, count);
@@ -33,7 +39,7 @@ private:
     };
     struct Node
     {
-        int count = 0;  // of rectangles over the whole range
+        int count = 0;  // of rectangles that cover the whole range
         qint64 length = 0;
     };
 
@@ -69,7 +75,7 @@ private:
     std::vector<Node> m_nodes;
 };
 
-/// A side of a rectangle, met from left to right.
+/// The left or right side of a rectangle.
 struct Side
 {
     int x;

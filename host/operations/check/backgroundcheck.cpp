@@ -22,13 +22,14 @@ using Task = std::function<void(GameCheck&)>;
 constexpr int NewsInterval = 100;  // milliseconds
 constexpr int LookInterval = 2000;
 
-/// Looking at the disk takes at most this part of the time.
+/// Looking at the disk takes at most this fraction of the time: 1/50.
 constexpr int LookShare = 50;
 
 }  // namespace
 
-/// The thread. Between two projects it takes the tasks that have come, which are numbered, and
-/// tells now and then what it has found, up to which task.
+/// The worker thread. It runs queued tasks between two projects. Tasks are numbered, and results
+/// are reported with the number of the last task they include, so the main thread knows if they are
+/// up to date.
 struct BackgroundCheck::Worker : public QThread
 {
     Worker(BackgroundCheck* owner, const QString& path)
@@ -174,7 +175,7 @@ void BackgroundCheck::stop()
     if (m_worker) {
         m_worker->stop();
         m_worker.reset();
-        // What it has told last is of a game that is gone.
+        // Results still in the event queue belong to the old game.
         QCoreApplication::removePostedEvents(this, QEvent::MetaCall);
     }
 }

@@ -49,7 +49,8 @@ void collectAssets(const ProjectFindings& project, QVector<AssetUse> FileFacts::
     }
 }
 
-/// An animation of the same name in another file of the project takes the place of one that goes.
+/// Collects references to removed animations, except those that another file of the project still
+/// defines.
 void collectReferences(const ProjectFindings& project, const QString& path, QSet<QString> missed,
                        QVector<NamedPlace>* places)
 {

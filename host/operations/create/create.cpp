@@ -46,7 +46,7 @@ QString relativeFolder(FileKind kind, const QString& name)
            name;
 }
 
-/// Fills a folder, with "/" at its end, as that of a project. Gives what is wrong, or nothing.
+/// Fills the folder of a project (path with "/" at the end). Returns an error, or nothing.
 QString fillProject(const QString& folder, FileKind kind, const QString& name,
                     const QString& templateName)
 {
@@ -68,7 +68,7 @@ QString fillProject(const QString& folder, FileKind kind, const QString& name,
     return error;
 }
 
-/// The palette of a costume that nobody has coloured yet: greys, from the clear colour on.
+/// The palette of a new costume: greys, starting with the transparent colour.
 QByteArray newPalette()
 {
     QByteArray bytes(PaletteBytes, '\0');

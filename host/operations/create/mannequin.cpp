@@ -1,7 +1,7 @@
-// A figure is drawn of capsules: a limb is all that lies within a radius of a line, the radius
-// going from one value to another. Elbows and knees are found from the two ends of a limb. Each
-// capsule has an outline of its own, so that a limb in front of another is seen, and is lit from
-// above.
+// The figure is drawn from capsules: all points within a radius of a line, where the radius changes
+// from one end to the other. Elbows and knees are computed from the two ends of a limb. Each
+// capsule has its own outline, so that a limb in front of another one stays visible, and is lit
+// from above.
 #include "operations/create/mannequin.h"
 
 #include <QPointF>
@@ -14,7 +14,7 @@ namespace Operations {
 
 namespace {
 
-/// Where the parts of a figure are, from the axis; y downward.
+/// The positions of the body parts relative to the axis; y points down.
 struct Points
 {
     QPoint hip, chest, head, nearHand, farHand, nearFoot, farFoot;
@@ -93,14 +93,14 @@ const Pose poses[] = {
 // clang-format on
 
 constexpr QRgb colours[] = {
-    0x00ff00ff, 0xff1c2430,              // clear, outline
-    0xff8a6a48, 0xffc09a68, 0xffe6c894,  // wood: shade, middle, light
-    0xff4c4038, 0xff6c5a48, 0xff8a745c,  // wood behind
+    0x00ff00ff, 0xff1c2430,              // transparent, outline
+    0xff8a6a48, 0xffc09a68, 0xffe6c894,  // wood: dark, middle, light
+    0xff4c4038, 0xff6c5a48, 0xff8a745c,  // wood of the far limbs
     0xff204870, 0xff3070a8, 0xff60a0d4,  // the jacket
     0xff8c2c2c, 0xffc84c3c, 0xffec8060,  // gloves and shoes
 };
 
-/// The first of three colours, from shade to light.
+/// Index of the first of three colours, from dark to light.
 enum Tone { Wood = 2, WoodBehind = 5, Jacket = 8, Glove = 11 };
 
 constexpr int Outline = 1;
@@ -120,7 +120,7 @@ struct Capsule
     Tone tone;
 };
 
-/// Where a limb of two parts bends: to the side at which `side` is.
+/// The joint of a limb with two parts; `side` is the direction in which it bends.
 QPointF joint(QPointF from, QPointF to, double first, double second, double side)
 {
     const QPointF way = to - from;
@@ -215,7 +215,7 @@ void drawBody(Drawing* drawing, const Points& at)
     drawing->draw({at.chest, neck, 4, 4, Wood});
     drawing->draw({at.hip, at.chest, 8, 11, Jacket});
     drawing->draw({at.head, at.head, 9, 9, Wood});
-    // A band around the head shows where the face is.
+    // A band around the head shows the direction of the face.
     const QPointF up = QPointF(at.head - at.chest) / 17;
     const QPointF front(-up.y(), up.x());
     drawing->draw({QPointF(at.head) + up * 3 - front * 5, QPointF(at.head) + up * 3 + front * 7, 1,

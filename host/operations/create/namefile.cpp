@@ -22,7 +22,7 @@ struct NamedRow
     const char* suffix;
     const char* key;
     FileID::Type type;
-    bool isOne;  ///< of several only the first counts
+    bool isOne;  ///< only the first entry of this kind counts
 };
 
 constexpr NamedRow rows[] = {
@@ -42,7 +42,7 @@ const NamedRow* rowOf(const QString& suffix)
     return found == std::end(rows) ? nullptr : found;
 }
 
-/// The last line of [files], and where its values stand; invalid without the group.
+/// The last line of [files], and the column of its values; invalid if there is no such group.
 QTextBlock endOfFiles(const Family::FamilyDocument* main, int* column)
 {
     static const QRegularExpression head(QStringLiteral("^\\s*\\[\\s*files\\s*\\]"));

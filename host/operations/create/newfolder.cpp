@@ -47,12 +47,12 @@ NewFolder::NewFolder(const QString& place)
 
 NewFolder::~NewFolder()
 {
-    // The folder goes with its lock in it.
+    // Deleting the folder also deletes its lock file, so the lock is released first.
     m_lock.reset();
     m_hidden.reset();
 }
 
-/// Another program may take the folder for abandoned before it is locked.
+/// Retries, because another program may remove the folder as abandoned before it is locked.
 bool NewFolder::make()
 {
     const QString folder = QFileInfo(m_place).absolutePath();
@@ -101,7 +101,7 @@ QString NewFolder::path() const
     return m_hidden->path() + Content;
 }
 
-// A folder takes the place of an empty one, and of nothing else.
+// rename() replaces an empty folder, but nothing else.
 bool NewFolder::finish(QString* error)
 {
     const QByteArray from = QFile::encodeName(QDir::cleanPath(path()));

@@ -9,7 +9,8 @@ namespace Operations {
 
 namespace {
 
-// File systems take 255, and suffixes come behind, of this program and of others for a while.
+// File systems allow 255 bytes. This leaves room for suffixes, also temporary ones of other
+// programs.
 constexpr int MaxBytes = 200;
 
 /// Makes the texts of this file known to translators.
@@ -18,7 +19,7 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(Operations::Create)
 };
 
-/// What some system refuses in names, and what ends a line or a paragraph of a text.
+/// Characters that some system forbids in file names, or that end a line or paragraph.
 bool isRefused(uint c)
 {
     static const QString refused = QStringLiteral("/\\:*?\"<>|");

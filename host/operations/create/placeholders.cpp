@@ -37,7 +37,7 @@ bool writeSprites(const QString& fileName, const QMap<quint32, AssetId>& shown, 
         const PlacedDrawing drawing = isStage ? drawRoom(id) : drawMannequin(id);
         sprites.insertSprite(int(sprites.count()) - 1, id, drawing.axis, drawing.image);
     }
-    // All have one, which images that come later share by this name.
+    // All placeholders share one palette. Its identifier lets later images share it too.
     if (sprites.palettes()->count() > 0) {
         sprites.palettes()->palette(0)->setProperty(QStringLiteral("Identifier"),
                                                     QStringLiteral("0,0"));

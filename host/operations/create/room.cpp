@@ -16,7 +16,7 @@ constexpr int Bands = 9;
 constexpr int Cell = 40;
 constexpr int TileSide = 64;
 
-// Behind the bands of the wall, from its top down, come those of the floor, from its back forward.
+// The bands of the wall, from top to bottom, then those of the floor, from back to front.
 enum Colour { Wall = 1, Floor = Wall + Bands, Line = Floor + Bands, Strong, Middle };
 
 QRgb mixed(QRgb from, QRgb to, int part, int of)
@@ -41,7 +41,7 @@ QImage canvas(int width, int height)
     return image;
 }
 
-/// Lines every 40 pixels from the middle and from the floor up, each fifth a strong one.
+/// Grid lines every 40 pixels from the middle and up from the floor; each fifth is a strong one.
 QImage wall()
 {
     QImage image = canvas(Width, WallHeight);
@@ -61,7 +61,8 @@ QImage wall()
     return image;
 }
 
-/// Boards that lead to the viewer: the lines of the wall, spread the more the nearer they are.
+/// Floor boards in perspective: they continue the lines of the wall and get wider toward the
+/// viewer.
 QImage floor()
 {
     QImage image = canvas(Width, FloorHeight);

@@ -15,7 +15,7 @@ namespace Operations {
 
 namespace {
 
-constexpr int MaxLevels = 4;  // from a program of the tree to the tree
+constexpr int MaxLevels = 4;  // from a program in the source tree to its root
 
 /// Makes the texts of this file known to translators.
 class Text
@@ -23,7 +23,7 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(Operations::Create)
 };
 
-/// A file of the installation, or of the tree that the program was built in.
+/// A file of the installation, or of the source tree that the program was built in.
 QString shipped(const QString& installed, const QString& inTree)
 {
     QDir folder(QCoreApplication::applicationDirPath());

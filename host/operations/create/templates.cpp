@@ -14,8 +14,8 @@
 #include <QStandardPaths>
 #include <QTextCodec>
 
-// The library is a static one: nothing else brings its resources in. Qt's macro names a function of
-// the global namespace.
+// The library is linked statically, so nothing else loads its resources. Qt's macro requires a
+// function in the global namespace.
 static void initTemplates()
 {
     Q_INIT_RESOURCE(templates);
@@ -25,7 +25,7 @@ namespace Operations {
 
 namespace {
 
-constexpr qint64 MaxText = 4 * 1024 * 1024;  // what is larger has no marks to be filled in
+constexpr qint64 MaxText = 4 * 1024 * 1024;  // larger files contain no placeholders
 
 /// Makes the texts of this file known to translators.
 class Text
@@ -37,7 +37,7 @@ struct KindRow
 {
     NewKind kind;
     const char* folder;
-    const char* first;  ///< the template that an empty name stands for
+    const char* first;  ///< the template for an empty name
 };
 
 constexpr KindRow rows[] = {
@@ -47,7 +47,7 @@ constexpr KindRow rows[] = {
     {NewKind::File, "file", "plain"},
 };
 
-/// The folders of a kind: the person's own, and ours.
+/// The folders of a kind: the user's own first, then the shipped one.
 QStringList foldersOf(NewKind kind)
 {
     initTemplates();
@@ -136,7 +136,7 @@ QStringList templateNames(NewKind kind, const QString& suffix)
 QString templatePath(NewKind kind, const QString& name, const QString& suffix)
 {
     const QString wanted = name.isEmpty() ? QLatin1String(rows[int(kind)].first) : name;
-    // The name is no path to somewhere else.
+    // A name must not be a path to another folder.
     if (!templateNames(kind, suffix).contains(wanted)) {
         return {};
     }
