@@ -60,8 +60,7 @@ private:
 };
 
 /// Escapes a text so that it stays on one line and contains nothing that a terminal would
-/// interpret. Control characters become "\x1b", line ends "
-/// ".
+/// interpret. Control characters become "\x1b", line ends "\n".
 QString printable(const QString& text);
 
 /// A JSON object on one line, with its keys sorted.

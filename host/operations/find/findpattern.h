@@ -33,8 +33,7 @@ public:
     /// Finds nothing while there is an error.
     const Zorv::CodeFind& find() const { return m_find; }
 
-    /// The text that replaces a match. With an expression,
-    /// becomes a line end and \t a tab.
+    /// The text that replaces a match. With an expression, \n becomes a line end and \t a tab.
     QString replacement(const QString& with) const;
 
 private:

@@ -26,8 +26,7 @@ struct Replaced
     QString text;
 };
 
-/// The text after replacing; lines end in '
-/// '.
+/// The text after replacing; lines end in '\n'.
 Replaced replacedText(const QString& text, const Replacing& replacing);
 
 /// Replaces in the text of a document, as one undo step; the file is not written. Returns the

@@ -13,8 +13,7 @@ struct FixSource
     QString folder;                                      ///< file names in problems are relative to
                                                          ///< it
     QHash<QString, Family::ProjectFindings> projects;    ///< by main file
-    std::function<QString(const QString& path)> textOf;  ///< of a code file; lines end in '
-                                                         ///< '
+    std::function<QString(const QString& path)> textOf;  ///< of a code file, lines end in '\n'
 };
 
 /// The possible fixes for a problem, most likely first. Most problems have none or one. A problem
