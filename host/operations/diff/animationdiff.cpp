@@ -11,6 +11,12 @@
 
 #include <algorithm>
 
+// Each frame becomes a line of text, and the line diff matches the equal frames. Between two
+// matched frames lies a run of old and new frames that all differ. There, dynamic programming finds
+// the cheapest way from old to new: keep a frame with changes (the cost grows with the number of
+// different values), remove one, or insert one. The cost table is filled from the end, so the
+// result can be read from the start.
+
 namespace Operations {
 
 using Family::AnimationNode;
@@ -42,7 +48,7 @@ QVector<OptionDiff> diffOptions(const FrameData& before, const FrameData& after)
     return result;
 }
 
-/// All that a frame says, for equal frames to be found as lines of a text are.
+/// Everything that a frame contains as one line, so that the line diff can find equal frames.
 QString lineOf(const FrameRecord& frame)
 {
     QString line = spriteText(frame.data);
@@ -93,8 +99,8 @@ FrameDiff diffFrame(const QVector<FrameRecord>& oldFrames, int oldFrame,
     return diff;
 }
 
-// What it costs to take one frame for another. To take one out and put the other in costs
-// `Replace`.
+// The cost of changing one frame into another. Removing one and inserting the other costs
+// `Replace`, half for each.
 constexpr int Replace = 8;
 constexpr int OtherSprite = 4;
 constexpr int MostForBoxes = 3;
@@ -115,11 +121,10 @@ int costOf(const FrameRecord& before, const FrameRecord& after)
     return cost + std::min(unequal, MostForBoxes);
 }
 
-// More pairs than that are taken by their places: the table of their costs would be too large.
+// With more pairs, frames are paired by position, because the cost table would be too large.
 constexpr qint64 MostPairs = 1 << 22;
 
-/// Pairs the frames of a run in which none says the same as another, so that all costs together
-/// are the least.
+/// Pairs the frames of a run without equal frames, with the smallest total cost.
 class RunAlignment
 {
 public:
@@ -149,7 +154,7 @@ public:
     }
 
 private:
-    /// The least cost of all frames from these on.
+    /// The smallest cost for all frames from these on.
     int at(int i, int j) const { return m_costs[i * (m_run.newCount + 1) + j]; }
 
     int pairCost(int i, int j) const
@@ -177,7 +182,7 @@ private:
     const QVector<FrameRecord>& m_old;
     const QVector<FrameRecord>& m_new;
     DiffRun m_run;
-    QVector<int> m_costs;  // empty for a run that is too large
+    QVector<int> m_costs;  // empty if the run is too large
 };
 
 }  // namespace

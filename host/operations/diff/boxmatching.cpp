@@ -3,11 +3,16 @@
 #include <algorithm>
 #include <cstdlib>
 
+// Within each kind, the pairs of boxes are sorted by the distance of their edges, then by the
+// difference of their places. They are taken greedily: a pair counts if neither box has a partner
+// yet. Equal boxes have distance 0, so they are matched first. Boxes left over were added or
+// removed.
+
 namespace Operations {
 
 namespace {
 
-/// Boxes of one kind, each with the place of its partner in the other frame or -1.
+/// Boxes of one kind, each with the index of its partner in the other frame, or -1.
 struct Side
 {
     QVector<QRect> rects;
@@ -37,7 +42,8 @@ struct Candidate
     int newPlace;
 };
 
-// More than that of them are paired by their places: it would take as long as there are pairs.
+// With more candidates, boxes are paired by position, because the time grows with the number of
+// pairs.
 constexpr qint64 MostCandidates = 1 << 20;
 
 QVector<Candidate> candidates(const Side& before, const Side& after)

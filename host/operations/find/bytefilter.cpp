@@ -6,8 +6,8 @@
 #include <cstring>
 #include <functional>
 
-// Files are looked through by Horspool's way: the byte below the last one of the part tells how far
-// the part can be moved on, so that most bytes are never looked at.
+// Uses Horspool's search. The file byte under the last byte of the part determines how far the part
+// can be moved on, so that most bytes are never read.
 
 namespace Operations {
 
@@ -15,7 +15,7 @@ namespace {
 
 constexpr quint64 HighBits = 0x8080808080808080;
 
-/// Where the first byte beyond ASCII stands, or the size.
+/// The position of the first non-ASCII byte, or the size.
 int asciiEnd(const char* data, int from, int size)
 {
     int at = from;
@@ -32,7 +32,7 @@ int asciiEnd(const char* data, int from, int size)
     return at;
 }
 
-/// The length of the character that begins with a byte beyond ASCII; 0 if it is none of UTF-8.
+/// The length of the character that starts with a non-ASCII byte; 0 if it is not valid UTF-8.
 int characterLength(const char* data, int left)
 {
     const auto first = uchar(data[0]);
@@ -51,7 +51,7 @@ int characterLength(const char* data, int left)
     return isWrong ? 0 : length;
 }
 
-/// Encodings of seven bits, and those of whole words, look like ASCII but for these.
+/// Seven-bit encodings and UTF-16 or UTF-32 look like ASCII, except for these bytes.
 bool hasShifts(const char* data, int size)
 {
     const auto has = [&](char byte) { return std::memchr(data, byte, size_t(size)) != nullptr; };
@@ -84,7 +84,7 @@ bool isAscii(QChar c)
     return c.unicode() < 0x80 && !isLineEnd(c);
 }
 
-/// Two letters of ASCII are the lower case of a letter beyond it, too.
+/// Without case, k and s also match a non-ASCII character: Kelvin sign and long s.
 bool hasCaseBeyondAscii(QChar c)
 {
     return QByteArrayLiteral("kKsS").contains(c.toLatin1());

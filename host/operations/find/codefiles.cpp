@@ -10,8 +10,8 @@
 #include <filesystem>
 #include <system_error>
 
-// Qt looks at each file of a listing; here the folder itself tells what is a file, which is most of
-// the time in a game of many.
+// Qt queries each file of a listing separately. std::filesystem gets the file types from the
+// directory itself, which saves most of the time in a large game.
 
 namespace fs = std::filesystem;
 
@@ -35,7 +35,7 @@ public:
             const fs::file_status status = it->symlink_status(unknown);
             const QByteArray bytes = QByteArray::fromStdString(it->path().filename().string());
             const QString name = QFile::decodeName(bytes);
-            // A name that is no text leads nowhere.
+            // A name that cannot be decoded could not be opened later.
             if (bytes.startsWith('.') || QFile::encodeName(name) != bytes) {
                 continue;
             }

@@ -14,7 +14,7 @@ namespace Operations {
 
 namespace {
 
-/// A file alone is done in less time than it takes to hand it to a thread.
+/// Searching a single file takes less time than handing it to a thread.
 constexpr int FilesAtOnce = 100;
 
 QVector<FileHits> searchPart(const QStringList& paths, const QString& text, int options)

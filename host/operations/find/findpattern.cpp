@@ -20,7 +20,7 @@ bool isWordPart(QChar character)
     return character.isLetterOrNumber() || character == QLatin1Char('_');
 }
 
-/// A text that ends in a sign has no end of a word there.
+/// Adds a word boundary only at an end with a word character; after punctuation \b would not match.
 QString wholeWord(const QString& text)
 {
     const QString edge = QStringLiteral("\\b");
@@ -49,7 +49,8 @@ CodeFind makeFind(const QString& text, int options)
 FindPattern::FindPattern(const QString& text, int options) : m_text(text), m_options(options)
 {
     if (options & Expression) {
-        // Without what is put around it: half a bracket is not to find its other half there.
+        // Tests the text alone: an unbalanced bracket must not match one in the code added around
+        // it.
         const CodeFind alone(byLines() + text, Zorv::FindRegularExpression);
         if (!text.isEmpty() && !alone.isValid()) {
             const int place = std::max(alone.errorOffset() - byLines().size(), 0);

@@ -13,9 +13,9 @@
 
 #include <algorithm>
 
-// A document gives every line of its file the same end. Nobody looks at a file that is not open, so
-// there only the matches are to change: the file is decoded as it is, and the places of the
-// searched text are found again in that by counting the pairs at its line ends.
+// A document gives all lines of its file the same line end. In a file that is not open only the
+// matches may change. So the file is decoded unchanged, and positions in the searched text are
+// converted by counting its two-character line ends.
 
 namespace Operations {
 
@@ -39,7 +39,7 @@ bool isSamePlace(const FindHit& hit, const CodeFind::Match& match)
     return hit.start == match.capturedStart() && hit.length == match.capturedLength();
 }
 
-/// The edits; false if a chosen match is no longer there.
+/// Collects the edits; false if a chosen match no longer exists.
 bool findParts(const QString& text, const Replacing& replacing, Parts* parts)
 {
     const CodeFind& find = replacing.pattern.find();
@@ -69,7 +69,7 @@ QString changedText()
     return Text::tr("It has changed since it was searched. Search again.");
 }
 
-/// A file as it was read, to be written again with other words.
+/// A file as it was read, to be written with replacements.
 class RawFile
 {
 public:
@@ -107,7 +107,7 @@ bool RawFile::read(const QString& path, QString* error)
                      .arg(TextCodecs::name(m_file.codec));
         return false;
     }
-    // Read twice: somebody may have been in between.
+    // The file was read twice; another program may have changed it in between.
     QString plain = m_text;
     plain.replace(LinePair, QLatin1String("\n")).replace(QLatin1Char('\r'), QLatin1Char('\n'));
     if (plain != m_file.text) {

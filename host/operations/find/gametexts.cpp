@@ -14,9 +14,9 @@
 #include <deque>
 #include <vector>
 
-// A run goes in rounds: the first takes all files, each one behind it those that have changed
-// meanwhile. One thread leads a round: it finds out what is due, works on it beside the others, and
-// waits for those that have begun. A run that was stopped ends by itself, and nobody waits for it.
+// A run consists of rounds. The first round processes all files, each later one the files that
+// changed meanwhile. One thread leads a round: it collects the files, works on them together with
+// the others, and waits for those still working. A stopped run ends by itself; nobody waits for it.
 
 namespace Operations {
 
@@ -27,20 +27,20 @@ namespace {
 constexpr int LookInterval = 2000;  // milliseconds
 constexpr int LookShare = 50;
 
-/// What is handed over in one turn of the event loop.
+/// The maximum number of results delivered in one turn of the event loop.
 constexpr int MostAtOnce = 64;
 
 }  // namespace
 
-/// The files that are due together.
+/// The files of one round.
 struct GameTexts::Round
 {
     std::vector<GameText> due;
-    std::vector<GameFinding> findings;  // likewise, and so the next two
+    std::vector<GameFinding> findings;  // same indexes, also for the next two
     std::vector<DiskState> states;
     std::vector<char> isReady;
     std::atomic_int next{0};
-    size_t told = 0;  // these, and the next, under the mutex of the run
+    size_t told = 0;  // this and the next are guarded by the mutex of the run
     int active = 0;
 };
 
@@ -70,11 +70,11 @@ struct GameTexts::Run : std::enable_shared_from_this<Run>
     std::atomic_int fileCount{0};
     std::atomic_int lookTime{0};
 
-    // Of the thread that leads.
+    // Only for the leading thread.
     QHash<QString, DiskState> states;
     bool isFirst = true;
 
-    QMutex mutex;  // for all below
+    QMutex mutex;  // guards all members below
     QWaitCondition left;
     QHash<QString, std::shared_ptr<const QString>> texts;
     QSet<QString> changed;
@@ -84,7 +84,7 @@ struct GameTexts::Run : std::enable_shared_from_this<Run>
     bool isTelling = false;
 };
 
-/// Under the mutex: something is due.
+/// Call with the mutex locked, when there is work.
 void GameTexts::Run::begin()
 {
     if (!isLed) {
@@ -115,7 +115,7 @@ void GameTexts::Run::lead()
     }
 }
 
-/// False if nothing is due any more; nobody leads then.
+/// False if there is no more work; then no thread leads any more.
 bool GameTexts::Run::takeDue(Round* round)
 {
     QMutexLocker lock(&mutex);
@@ -185,7 +185,7 @@ void GameTexts::Run::addChanged(Round* round, const QSet<QString>& paths)
     }
 }
 
-/// The work of one thread, until nothing is left of the round.
+/// The work of one thread, until the round is empty.
 void GameTexts::Run::work(Round* round, const Work& leaderWork)
 {
     {
@@ -222,7 +222,7 @@ void GameTexts::Run::finish(Round* round, size_t index)
     }
 }
 
-/// Under the mutex.
+/// Call with the mutex locked.
 void GameTexts::Run::tell()
 {
     if (!isTelling && !isStopped) {
@@ -258,7 +258,7 @@ void GameTexts::setGame(const QString& folder)
 void GameTexts::setText(const QString& path, const std::shared_ptr<const QString>& text)
 {
     if (!text && !m_texts.contains(path)) {
-        look();  // it was saved, or read again
+        look();  // it was saved or reloaded
         return;
     }
     if (text) {
@@ -342,7 +342,7 @@ void GameTexts::take(const std::shared_ptr<Run>& run)
         emit found(part);
     }
     if (run != m_run) {
-        return;  // who was told has begun anew
+        return;  // the receiver has restarted
     }
     if (isIdle && m_isWatching && !m_timer->isActive()) {
         m_timer->start(std::max(LookInterval, LookShare * int(run->lookTime)));

@@ -22,7 +22,7 @@ namespace {
 constexpr int MostShown = 300;  // characters of a line
 constexpr int ShownBefore = 60;
 
-// Of a file that is looked through before it is decoded.
+// Limit for files that are filtered before they are decoded.
 constexpr int MostBytes = 16 * 1024 * 1024;
 constexpr int Block = 65536;
 
@@ -32,7 +32,7 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(Operations::TextSearch)
 };
 
-/// Counts lines on the way from hit to hit.
+/// Counts lines from hit to hit.
 class LineCounter
 {
 public:
@@ -72,14 +72,14 @@ private:
     const QString& m_text;
     int m_start = 0;
     int m_line = 0;
-    int m_cut = 0;  // in front of what is shown of the line
+    int m_cut = 0;  // characters cut off before the shown part
     QString m_shown;
 };
 
-/// What lies in a file, in a buffer that each thread keeps.
+/// The content of a file, in a buffer that each thread reuses.
 struct FileBytes
 {
-    /// Takes no pipe, which would wait, and no file that should not be in memory as a whole.
+    /// Rejects pipes, which would block, and files too large for memory.
     bool read(const QString& path);
 
     QByteArray buffer;

@@ -20,7 +20,7 @@ namespace {
 constexpr int SilentRate = 22050;
 constexpr int SilentFrames = SilentRate / 10;
 
-/// The first palette of a sprite file as a palette file; empty without one.
+/// The first palette of a sprite file as a palette file; empty if there is none.
 QByteArray firstPalette(const QString& spriteFile)
 {
     QString error;

@@ -21,7 +21,7 @@ using Family::Problems;
 
 namespace {
 
-// Each round mends one problem of a line; what is behind it comes out in the next one.
+// Each round fixes one problem per line. Problems after it appear in the next round.
 constexpr int MostRounds = 50;
 
 bool isOfNames(ProblemId id)
@@ -39,7 +39,7 @@ bool isOfNames(ProblemId id)
     }
 }
 
-/// The project of a code file, the first one of several by their names.
+/// The project of a code file; the first by name if there are several.
 const Family::ProjectFindings* projectOf(const QString& path, const FixSource& source)
 {
     const Family::ProjectFindings* found = nullptr;
@@ -62,7 +62,7 @@ bool readText(const QString& path, QString* text, QString* error)
     return isRead;
 }
 
-/// The plain changes of the problems of one text, at most one a line.
+/// The plain fixes for the problems of a text, at most one per line.
 QVector<TextChange> plainChanges(const Problems& problems, const QString& text,
                                  Family::FileKind kind)
 {
@@ -84,7 +84,7 @@ QVector<TextChange> plainChanges(const Problems& problems, const QString& text,
     return changes;
 }
 
-/// Mends one of the texts, read from its file first. False if there is nothing to mend.
+/// Fixes one text, which is read from its file the first time. False if there is nothing to fix.
 bool mend(const QString& path, const Problems& problems, QMap<QString, MendedText>* texts)
 {
     auto found = texts->find(path);

@@ -5,8 +5,8 @@
 #include <QCoreApplication>
 #include <QRegularExpression>
 
-// One small function for each kind of problem, and a table of them. A mend is plain where the
-// message can only mean one thing and nothing that counts today is lost.
+// One small function for each kind of problem, and a table of them. A fix is plain if the message
+// can only mean one thing, and nothing that works today is lost.
 
 namespace Operations {
 
@@ -31,7 +31,7 @@ void put(const FaultyLine& line, int column, int length, const QString& text, co
     fix->title = title;
 }
 
-/// Another word in the place of the one that is meant; nothing for none.
+/// Replaces the faulty word; does nothing if `text` is empty.
 void write(const FaultyLine& line, const QString& text, Fix* fix)
 {
     if (!text.isEmpty()) {
@@ -43,7 +43,7 @@ void removeLine(const FaultyLine& line, Fix* fix)
 {
     const bool isLast = line.index + 1 == line.lines.count();
     const int start = line.lines.start(line.index);
-    // The last line takes the end of the one above with it.
+    // Removing the last line also removes the line end before it.
     const int begin = isLast && start > 0 ? start - 1 : start;
     fix->changes = {{begin, line.line.size() + (isLast && start == 0 ? 0 : 1), {}}};
     fix->title = Text::tr("Remove the line");
@@ -91,7 +91,7 @@ void oldKey(const FaultyLine& line, Fix* fix)
     write(line, row ? QString(row->replacement) : QString(), fix);
 }
 
-/// The keys that stand in the group of a line already: one of these is not what was meant.
+/// The keys that the group of a line already has: none of them can be the intended one.
 QStringList keysAround(const FaultyLine& line)
 {
     QStringList keys;
@@ -162,7 +162,7 @@ void unknownOption(const FaultyLine& line, Fix* fix)
     write(line, Family::nearName(line.word(), names), fix);
 }
 
-/// With the blanks in front of it, up to the next word that begins an option.
+/// Removes an option and the blanks before it, up to the next option.
 void removeOption(const FaultyLine& line, int start, Fix* fix)
 {
     static const QRegularExpression content(
@@ -193,7 +193,7 @@ void doubledLoop(const FaultyLine& line, Fix* fix)
     }
 }
 
-/// Each number keeps the way in which it is written.
+/// Swaps numbers but keeps how each is written.
 void reversedBox(const FaultyLine& line, Fix* fix)
 {
     static const QRegularExpression number(QStringLiteral("[-+]?\\d+"));

@@ -11,9 +11,9 @@
 
 #include <algorithm>
 
-// What is made goes where a person would write it: an animation behind that with the number before,
-// a command behind the last one, a move behind the one that names it. It shows what is there
-// already, so that nothing else is missing by it.
+// New parts go where a person would write them: an animation after the one with the next lower
+// number, a command after the last one, a move after the one that names it. A new part only uses
+// things that exist, so that it causes no new problems.
 
 namespace Operations {
 
@@ -45,7 +45,8 @@ QStringList namesIn(const ProjectFindings& project, Names names)
     return result;
 }
 
-/// The word of a message, which has none of the marks that could stand in a name.
+/// The missing name: the value of the line. If a key needs a command that is missing, the name that
+/// engines know for it.
 QString missingName(const Problem& problem, const FaultyLine& line)
 {
     if (problem.id != ProblemId::CommandMissing || !line.parsed.key ||
@@ -58,7 +59,7 @@ QString missingName(const Problem& problem, const FaultyLine& line)
     return known ? QString(known->name) : QString();
 }
 
-/// Adds an insertion; what goes to one place stands in the order in which it came.
+/// Adds an insertion. Insertions at the same position are joined in the order of the calls.
 void insert(int position, const QString& text, Fix* fix)
 {
     const auto at = std::lower_bound(fix->changes.begin(), fix->changes.end(), position,
@@ -75,7 +76,7 @@ void insertBelow(const TextLines& lines, int line, const QString& text, Fix* fix
     insert(lines.end(line), QLatin1Char('\n') + text, fix);
 }
 
-/// A part of its own at the end of a text.
+/// Appends a separate part to a text.
 void append(const QString& text, const QString& part, Fix* fix)
 {
     const QString gap = text.isEmpty()                     ? QString()
@@ -91,7 +92,8 @@ int numberOf(const QString& identifier)
     return isNumber ? number : -1;
 }
 
-/// The animation that one of a name belongs behind: that with the number before, else the last.
+/// The animation to insert a new one after: for a number the one with the next lower number, for a
+/// word the last one.
 const NamedPlace* animationBefore(const Family::FileFacts& facts, const QString& name)
 {
     const NamedPlace* before = nullptr;
@@ -126,7 +128,7 @@ QString anySprite(const ProjectFindings& project)
     return QStringLiteral("0,0");
 }
 
-/// The file of the project in which new things of a kind go.
+/// The file of the project for new parts of a kind.
 const Family::FileFacts* fileFor(const ProjectFindings& project, Names names, FileID::Type type)
 {
     for (const FactStore::Code& code : project.code) {
@@ -146,7 +148,7 @@ const Family::FileFacts* fileFor(const ProjectFindings& project, Names names, Fi
     return project.code.first().get();
 }
 
-/// The file with the animation that one of a name belongs behind; else the first with any.
+/// The file with the animation to insert a new one after; else the first file with animations.
 const Family::FileFacts* fileForAnimation(const ProjectFindings& project, const QString& name)
 {
     const Family::FileFacts* best = nullptr;
@@ -161,7 +163,7 @@ const Family::FileFacts* fileForAnimation(const ProjectFindings& project, const 
     return best ? best : fileFor(project, &Family::FileFacts::animations, FileID::Animations);
 }
 
-/// One frame each, of a sprite that the animation before shows.
+/// A new animation has one frame, with a sprite that the animation before it shows.
 void addAnimation(const QString& name, const Family::FileFacts& facts, const TextLines& lines,
                   const ProjectFindings& project, Fix* fix)
 {
@@ -196,7 +198,8 @@ Fix newAnimations(const QStringList& names, const Family::FileFacts& facts,
     return fix;
 }
 
-/// A motion is for the person to write; those that engines know have a usual one.
+/// Only a person can choose a motion, except for commands that engines know: those have a usual
+/// one.
 Fix newCommand(const QString& name, const ProjectFindings& project, const FixSource& source)
 {
     const Family::FileFacts* facts =
@@ -226,7 +229,7 @@ Fix newCommand(const QString& name, const ProjectFindings& project, const FixSou
     return fix;
 }
 
-/// The animation of the move that a line belongs to.
+/// The animation of the move that contains a line.
 QString animationOfMove(const Family::FileFacts& facts, int moveLine, int nextMove)
 {
     for (const NamedPlace& place : facts.references) {

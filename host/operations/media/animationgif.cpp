@@ -18,7 +18,7 @@ using Family::FrameNode;
 
 namespace {
 
-// Of all pictures together, while they wait to be written.
+// All pictures together, while they wait to be written.
 const qint64 MaxBytes = qint64(1) << 30;
 
 /// Makes the texts of this file known to translators.
@@ -27,13 +27,14 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(Operations::AnimationGif)
 };
 
-/// What a GIF shows, one after another.
+/// The frames of a GIF.
 class GifFrames
 {
 public:
     explicit GifFrames(FrameComposer* composer) : m_composer(composer) {}
 
-    /// Adds a frame; one without any time is never seen. False, with `error`, if it cannot be made.
+    /// Adds a frame; frames without a duration are skipped. False, with `error`, if it cannot be
+    /// drawn.
     bool add(const FrameNode& node, QString* error)
     {
         const int delay = node.data().delay;

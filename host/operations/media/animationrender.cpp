@@ -42,7 +42,7 @@ const FrameNode& frameAt(const AnimationNode& animation, int index)
     return *static_cast<const FrameNode*>(animation.childAt(unsigned(index)));
 }
 
-/// The area of all frames. What is missing in one is told when that is drawn.
+/// The area of all frames. Missing sprites are ignored here and reported when their frame is drawn.
 QRect areaOf(const AnimationNode& animation, const FrameComposer& composer)
 {
     QString ignored;
@@ -90,7 +90,7 @@ QByteArray compact(const QJsonObject& object)
     return QJsonDocument(object).toJson(QJsonDocument::Compact);
 }
 
-/// The frames on a line each.
+/// Writes one line per frame.
 QByteArray withFrames(const QJsonObject& head, const QVector<QJsonObject>& frames)
 {
     QByteArray text = compact(head);
@@ -102,7 +102,7 @@ QByteArray withFrames(const QJsonObject& head, const QVector<QJsonObject>& frame
     return text + "\n]}\n";
 }
 
-/// Cells of one size in rows.
+/// Cells of equal size in rows.
 class SheetGrid
 {
 public:
@@ -118,7 +118,7 @@ public:
                 m_cell};
     }
 
-    /// Empty if that is more than a picture may have.
+    /// Empty if it exceeds the maximum size of a picture.
     QSize size() const
     {
         const qint64 width = qint64(m_columns) * m_cell.width();

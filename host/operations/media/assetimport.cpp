@@ -30,10 +30,10 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(Operations::AssetImport)
 };
 
-/// A sprite on its way.
+/// A sprite being imported.
 struct Arrival
 {
-    AssetId id;  ///< in the source, then in the destination
+    AssetId id;  ///< first in the source, later in the destination
     const FamilySprite* sprite = nullptr;
     PixelRef pixels;  ///< in the destination
 };
@@ -96,7 +96,7 @@ private:
     SpriteCollection* m_destination;
     Family::PixelTransfer m_transfer;
     Family::FreeIds m_ids;
-    QMultiHash<const Family::PixelData*, const FamilySprite*> m_shown;  // made when it is needed
+    QMultiHash<const Family::PixelData*, const FamilySprite*> m_shown;  // created on demand
     QVector<Arrival> m_arrivals;
     QVector<Arrival> m_new;
     AssetResult m_result;
@@ -141,7 +141,7 @@ void Import::read(const QVector<SpriteNumber>& sprites)
     }
 }
 
-/// Those that can keep their numbers have them before others look for free ones.
+/// Sprites that can keep their numbers are placed first, before others look for free ones.
 void Import::place()
 {
     std::sort(m_arrivals.begin(), m_arrivals.end(),
@@ -218,7 +218,7 @@ QHash<const FamilyPalette*, PaletteList::ItemPtr> Import::bringPalettes()
     return result;
 }
 
-/// They stand in the order that they have in the source.
+/// New sprites keep their order in the source.
 void Import::put()
 {
     const auto palettes = bringPalettes();

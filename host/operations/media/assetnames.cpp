@@ -56,7 +56,7 @@ bool importTarget(const QString& fileName, ImportTarget* target)
 {
     static const QRegularExpression form(
         QStringLiteral("(?:^|[^0-9])([0-9]{1,5})-([0-9]{1,5})(?:_([0-9]{1,5}))?$"));
-    // As a folder of sprites calls them.
+    // The file names in a folder of sprites.
     static const QRegularExpression inFolder(
         QStringLiteral("(?:^|[^0-9])([0-9]{1,5})_([0-9]{1,5})$"));
     const QString name = QFileInfo(fileName).completeBaseName();
@@ -120,7 +120,7 @@ QVector<AssetId> newIds(const QStringList& files, const std::function<AssetId(As
     }
     for (const int i : qAsConst(nameless)) {
         give(i, first);
-        first = AssetId::fromKey(ids[i].key() + 1);  // all in front of it have gone
+        first = AssetId::fromKey(ids[i].key() + 1);  // everything before it is taken
     }
     return ids;
 }

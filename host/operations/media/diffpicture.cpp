@@ -23,7 +23,7 @@ class Text
 constexpr int Gap = 8;  // pixels around each frame
 const QColor LineColor(128, 128, 128);
 
-/// A frame of either side, with what draws it.
+/// A frame of either side, and its composer.
 struct Cell
 {
     const FrameNode* frame = nullptr;

@@ -27,7 +27,7 @@ bool isPattern(const QString& name)
     });
 }
 
-/// What one part of a pattern means in a folder; `head` is the folder as it was named.
+/// The matches of one part of a pattern in a folder; `head` is the folder as the user named it.
 QStringList matchesIn(const QString& head, const QString& part, bool isLast)
 {
     const QDir::Filters kind = isLast ? QDir::Files : QDir::Dirs;
@@ -98,7 +98,7 @@ QStringList expandPatterns(const QStringList& names, QString* error)
             return {};
         }
         for (const QString& file : found) {
-            // A link has a name of its own, and so a result of its own.
+            // A link has its own name, and therefore its own result.
             const QFileInfo info(file);
             const QString place = info.dir().canonicalPath() + QLatin1Char('/') + info.fileName();
             if (!known.contains(place)) {

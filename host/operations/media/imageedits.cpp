@@ -18,7 +18,7 @@ namespace {
 
 const int MaxSide = 32767;
 
-// Several are made at a time.
+// Limits memory: several results are made at the same time.
 const double MaxPixels = 1 << 27;
 
 /// Makes the texts of this file known to translators.

@@ -26,7 +26,7 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(Operations::ImageNumbers)
 };
 
-/// Reads names by a pattern.
+/// Parses names by a pattern.
 class NamePattern
 {
 public:
@@ -34,7 +34,7 @@ public:
         : m_isDefault(pattern == Numbering::defaultPattern()),
           m_hasGroup(pattern.contains(GroupMark)), m_hasNumber(pattern.contains(NumberMark))
     {
-        // Digits in front of digits would leave open which ones are meant.
+        // No digit may precede: otherwise it would be unclear where the number starts.
         const bool beginsWithDigits =
             pattern.startsWith(GroupMark) || pattern.startsWith(NumberMark);
         QString form = QRegularExpression::escape(pattern);
@@ -49,11 +49,11 @@ public:
 
     bool hasNumber() const { return m_hasNumber; }
 
-    /// False if the name is another one, or tells no group where `group` is none.
+    /// False if the name does not match, or has no group and `group` is negative.
     bool read(const QString& name, int group, ImportTarget* target) const
     {
         if (m_isDefault) {
-            // Names of frames can have dots.
+            // Frame names may contain dots, so a suffix is added.
             return importTarget(name + QStringLiteral(".png"), target);
         }
         const QRegularExpressionMatch match = m_form.match(name);
@@ -84,8 +84,9 @@ bool isThere(const SpriteCollection& sprites, const ImportTarget& target)
     return row >= 0;
 }
 
-/// Gives numbers in three rounds, so that a name that tells its number gets it whatever comes in
-/// front: first names, then those whose number is taken, then what has no name.
+/// Assigns numbers in three rounds: first by name, then images whose number is taken, then images
+/// without a number in their name. So an image with a number in its name gets it, wherever it is in
+/// the list.
 class Numberer
 {
 public:
@@ -116,7 +117,7 @@ private:
     QHash<quint32, AssetId> m_nextOfGroup;
     QHash<quint64, int> m_owners;
     QVector<int> m_moved;
-    QVector<int> m_nameless;  // and those that tell a group alone, of which the target has it
+    QVector<int> m_nameless;  // also names that contain only a group, which is then in `target`
     QVector<bool> m_hasGroup;
 };
 
@@ -148,7 +149,7 @@ QVector<ImageNumber> Numberer::run()
     return m_numbers;
 }
 
-/// Of all that a twin has in common with the first one: sheets can have many frames at one place.
+/// Hashes everything that twins have in common, because a sheet can have many frames at one place.
 uint hashOf(const Family::SheetFrame& frame)
 {
     const int parts[] = {frame.page,

@@ -35,7 +35,7 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(Operations::ImportImage)
 };
 
-/// The axis that a PNG file tells.
+/// The axis stored in a PNG file.
 bool readAxis(const QImage& image, QPoint* axis)
 {
     const QStringList parts = image.text(QLatin1String(AxisText)).split(QLatin1Char(','));
@@ -52,8 +52,7 @@ void crop(ImportPixels* pixels)
     pixels->corner += corner;
 }
 
-/// What stands in the folder of a file under the last part of a name, which may be a path of
-/// another computer.
+/// The file beside `file` with the last part of a name. The name may be a path of another computer.
 QString besideFile(const QString& file, QString name)
 {
     name.replace(QLatin1Char('\\'), QLatin1Char('/'));
@@ -81,7 +80,7 @@ private:
     QString m_jsonFile;
     SheetImages m_result;
     int m_pages = 0;
-    QHash<QString, QImage> m_pictures;  // by their files: many pages can name one
+    QHash<QString, QImage> m_pictures;  // by file, because many pages can use the same picture
     qint64 m_bytes = 0;
 };
 
@@ -101,7 +100,7 @@ bool SheetFiles::readJson(const QString& file, Sheet* sheet)
     return true;
 }
 
-/// The file that it says; else the picture with the name of the sheet.
+/// The picture that the sheet names; else the one with the name of the sheet.
 QImage SheetFiles::readPage(const QString& file, const Sheet& sheet, int page, QString* name)
 {
     const QString told = sheet.pages.at(page);
@@ -165,7 +164,7 @@ bool SheetFiles::addSheet(const QString& file, Sheet* sheet)
     return true;
 }
 
-/// The other files of the set, once each; what they name is the same set.
+/// Reads the other files of the set, each once. Files that they name belong to the same set.
 bool SheetFiles::readSet(const Sheet& first)
 {
     QStringList read{QFileInfo(m_jsonFile).fileName()};

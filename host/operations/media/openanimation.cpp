@@ -102,7 +102,7 @@ QString OpenAnimation::shownName(const QString& fileName) const
     return QDir::isRelativePath(m_path) ? QDir::current().relativeFilePath(path) : path;
 }
 
-/// False if there is nothing of that name in the project.
+/// False if the project has nothing of that name.
 bool OpenAnimation::findInProject(const FamilyProject& project, const QString& name)
 {
     QStringList files;

@@ -50,7 +50,7 @@ bool OutputFiles::plan(const QStringList& names, const OutputRequest& request,
     m_pattern =
         !place.isEmpty() && isFolder(place) ? QDir(place).filePath(QStringLiteral("*")) : place;
     if (m_pattern.contains(QLatin1String("../"))) {
-        // The way out of a folder that is not there yet, but will be.
+        // Resolves "..", because the folder before it may not exist yet.
         m_pattern = QDir::cleanPath(m_pattern);
     }
     if (!place.isEmpty() && !m_pattern.contains(QLatin1Char('*')) && names.size() > 1) {
@@ -113,7 +113,7 @@ QString OutputFiles::make(int index, const std::function<QByteArray(QString* err
     return error;
 }
 
-// By hash, for the paths of many files together would take more memory than the files on their way.
+// Stores hashes, because the paths of many files would take more memory than the files in process.
 QString OutputFiles::pathFault() const
 {
     const auto target = [this](int i) {

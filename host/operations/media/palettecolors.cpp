@@ -16,7 +16,7 @@ namespace {
 
 constexpr int MostColors = 256;
 
-/// Longer than all colours with room to spare: anything else is not looked through.
+/// Longer than all colours need. A longer text is not parsed.
 constexpr int LongestText = 16 * 1024;
 
 const QString PlacesFormat = QStringLiteral("application/x-zorv-palette-slots");

@@ -26,7 +26,7 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(Operations::PaletteEdits)
 };
 
-/// A line for each broken palette among these.
+/// One line for each broken palette among `rows`.
 QStringList brokenPalettes(const PaletteList& palettes, const QVector<int>& rows)
 {
     QStringList lines;
@@ -92,7 +92,7 @@ QVector<int> palettesShownTogether(const SpriteCollection& sprites, QVector<int>
             isIn[row] = true;
         }
     }
-    // Whoever comes in may bring others.
+    // Each palette that is added may require others.
     for (bool hasGrown = true; hasGrown;) {
         hasGrown = false;
         for (const auto& palette : palettes.items()) {

@@ -21,7 +21,7 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(Operations::PaletteUses)
 };
 
-/// The sprites of a palette that show the same pixels.
+/// The sprites of a palette that share the same pixels.
 struct Alike
 {
     int palette;

@@ -81,7 +81,7 @@ EditedSound withLoudness(const SoundSample& sound, double wanted, double peak)
     return edited;
 }
 
-/// A piece of work on the sounds of a collection.
+/// An edit of the sounds of a collection.
 class Editing
 {
 public:
@@ -98,7 +98,7 @@ public:
     MediaResult run(const QString& title, const SoundEdit& edit);
 
 private:
-    /// What a thread has made of a sound.
+    /// The result of a worker thread for one sound.
     struct Made
     {
         EditedSound edited;
@@ -128,7 +128,7 @@ std::function<Editing::Made()> Editing::work(int index, const SoundEdit& edit) c
         Made made{edit(sample), {}};
         SoundSample& result = made.edited.sample;
         if (Zorv::isSameForm(sample, result) && sample.data == result.data) {
-            result = {};  // nothing to put back
+            result = {};  // unchanged: nothing to store
         } else if (made.edited.fault.isEmpty()) {
             made.packed = packer(result.data);
         }
@@ -185,7 +185,7 @@ SoundEdit resamplingSound(const SampleInfo& form)
         const Zorv::SoundConversion conversion = Zorv::convertSound(sound, target);
         EditedSound edited;
         edited.sample = conversion.sample;
-        // The sentence goes on in another one.
+        // The text continues in a longer sentence, so its final dot is removed.
         edited.fault = Zorv::soundConversionText(conversion.outcome);
         edited.fault.chop(edited.fault.endsWith(QLatin1Char('.')) ? 1 : 0);
         return edited;

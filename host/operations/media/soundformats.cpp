@@ -46,7 +46,7 @@ sf_count_t seekIn(sf_count_t offset, int whence, void* data)
     const qint64 from = whence == SEEK_CUR   ? device->pos()
                         : whence == SEEK_END ? device->size()
                                              : 0;
-    // A place that a damaged file leads to.
+    // A damaged file may contain an invalid position.
     const bool isThere = offset <= device->size() - from && offset >= -from;
     return isThere && device->seek(from + offset) ? device->pos() : -1;
 }
@@ -64,7 +64,7 @@ SF_VIRTUAL_IO access()
     return io;
 }
 
-/// Bits of plain numbers; 0 for all else that is read, negative for what is not.
+/// The width of PCM samples; 0 for other readable formats, negative for unreadable ones.
 int bitsOf(int form)
 {
     switch (form & SF_FORMAT_SUBMASK) {
@@ -97,13 +97,13 @@ bool isTaken(int form)
     case SF_FORMAT_WAVEX:
         return bitsOf(form) >= 0;
     case SF_FORMAT_WAV:
-        return bitsOf(form) == 0;  // the library reads plain numbers
+        return bitsOf(form) == 0;  // the library reads PCM
     default:
         return false;
     }
 }
 
-/// The samples of a file, block by block.
+/// Reads the samples of a file block by block.
 class Reader
 {
 public:
@@ -119,7 +119,7 @@ public:
     int bits() const { return m_bytes * 8; }
     int frameBytes() const { return m_bytes * m_channels; }
 
-    /// Up to as many frames as may be; all that are there.
+    /// Reads all frames, but at most this many.
     QByteArray readAll(sf_count_t most)
     {
         QByteArray bytes;
@@ -163,13 +163,13 @@ private:
     SNDFILE* m_file;
     int m_channels;
     bool m_isPlain;
-    int m_bytes;  // of a value
+    int m_bytes;  // bytes per value
     int m_blockFrames;
     std::vector<int> m_whole;
     std::vector<float> m_floats;
 };
 
-/// One format of the host: the name of an extension is a suffix.
+/// A sound format of the host: the name of the extension is the suffix.
 class SoundFormat final : public Zorv::Extension
 {
 public:
@@ -217,7 +217,7 @@ SoundSample decodeSound(QIODevice* device, QString* error, qint64* missing)
     }
     Reader reader(file.get(), info);
     const sf_count_t most = MostBytes / reader.frameBytes();
-    // A stream need not tell how long it is.
+    // A stream may have no length.
     const bool isKnown = info.frames > 0 && info.frames != SF_COUNT_MAX;
     if (isKnown && info.frames > most) {
         *error = Text::tr("it declares more than a gigabyte of samples");

@@ -16,7 +16,7 @@ namespace {
 
 constexpr int BlockFrames = 8192;
 
-/// What the filter between the samples still holds at the end of a sound.
+/// Frames of silence that flush the interpolation filter at the end of a sound.
 constexpr int FilterFrames = 64;
 
 /// Makes the texts of this file known to translators.
@@ -30,7 +30,7 @@ struct Closer
     void operator()(ebur128_state* state) const { ebur128_destroy(&state); }
 };
 
-/// A sample as the upper bits of a number of 32.
+/// A sample in the upper bits of a 32-bit number.
 int upperBits(const char* sample, int bytes)
 {
     quint32 value = 0;
@@ -87,7 +87,7 @@ SoundLoudness loudnessOf(const Zorv::SoundSample& sound)
     ebur128_loudness_global(state.get(), &loudness.integrated);
     loudness.samplePeak = Zorv::peakOf(sound, Zorv::wholeSound(sound));
     loudness.truePeak = std::max(truePeakOf(state.get(), sound.channels), loudness.samplePeak);
-    // The blocks that are measured take four tenths of a second.
+    // A measuring block is 0.4 seconds long.
     if (qint64(frames) * 10 < qint64(sound.sampleRate) * 4) {
         loudness.outcome = SoundLoudness::TooShort;
     } else {

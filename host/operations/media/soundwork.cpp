@@ -51,7 +51,7 @@ QString writeSound(const FamilySound& sound, const OutputFiles& outputs, int ind
     return outputs.write(index, bytes);
 }
 
-/// The sound that a target means; -1 if there is none yet.
+/// The row of the sound that a target means; -1 if there is none.
 int rowOf(const SoundFile& sounds, const ImportTarget& target)
 {
     int row = -1;
@@ -61,7 +61,7 @@ int rowOf(const SoundFile& sounds, const ImportTarget& target)
     return row;
 }
 
-/// Adds a sound, or replaces the one of a row.
+/// Adds a sound, or replaces the one in a row.
 Outcome putSound(SoundFile* sounds, int row, const ImportTarget& target, const QString& file,
                  SoundExtent extent)
 {
@@ -80,7 +80,7 @@ Outcome putSound(SoundFile* sounds, int row, const ImportTarget& target, const Q
     return outcome;
 }
 
-/// What a format tag stands for; empty for one that is seldom met.
+/// The name of a format tag; empty for a rare one.
 QString formOfTag(int tag)
 {
     static const struct
@@ -101,13 +101,13 @@ QString formOfTag(int tag)
     return found == std::end(forms) ? QString() : Text::tr(found->form);
 }
 
-/// As texts count; a file of more cannot be read at all.
+/// Clamped for plural forms. A file with more frames cannot be read anyway.
 int numberOf(qint64 frames)
 {
     return int(qBound<qint64>(0, frames, std::numeric_limits<int>::max()));
 }
 
-/// Why a file gives no sample.
+/// Why a file has no readable samples.
 QString unreadText(const QString& fileName, const Zorv::WaveContents& contents)
 {
     const int tag = contents.formatTag;
@@ -136,7 +136,7 @@ QString cutText(const QString& fileName, qint64 held, qint64 missing)
         .arg(fileName, QString::number(held));
 }
 
-/// What was read of a file that holds more, or was cut short.
+/// Describes how much was read of a file that holds more or is truncated.
 QString partText(const QString& fileName, qint64 read, const Zorv::WaveContents& contents)
 {
     const qint64 held = contents.info.frames;
@@ -148,7 +148,7 @@ QString partText(const QString& fileName, qint64 read, const Zorv::WaveContents&
     return contents.missing == 0 ? QString() : cutText(fileName, held, contents.missing);
 }
 
-/// A WAV file of plain samples.
+/// Reads a WAV file with PCM samples.
 Outcome readPlain(const QString& fileName, QIODevice* file, SoundExtent extent,
                   const Zorv::WaveContents& contents, Zorv::SoundSample* sample)
 {

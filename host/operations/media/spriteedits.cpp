@@ -38,7 +38,7 @@ QString brokenLine(const FamilySprite& sprite, const QString& fault)
     return Text::tr("Sprite %1 stays as it is: %2.").arg(sprite.id().text(), fault);
 }
 
-/// The sprites of these rows that can be changed; the others are told.
+/// The sprites of these rows that can be changed; broken ones are reported.
 QVector<FamilySprite*> wholeSprites(const SpriteCollection& sprites, const QVector<int>& rows,
                                     MediaResult* result)
 {
@@ -54,7 +54,7 @@ QVector<FamilySprite*> wholeSprites(const SpriteCollection& sprites, const QVect
     return whole;
 }
 
-/// The identifiers of sprites one after the other; empty, with `error`, if one cannot be.
+/// The new identifiers, one per sprite; empty, with `error`, if one is out of range.
 QVector<AssetId> newIds(const QVector<FamilySprite*>& sprites, const Renumbering& renumbering,
                         QString* error)
 {
@@ -75,7 +75,7 @@ QVector<AssetId> newIds(const QVector<FamilySprite*>& sprites, const Renumbering
     return ids;
 }
 
-/// The first of the identifiers that two sprites would have; empty if none is.
+/// The first identifier that two sprites would share; empty if there is none.
 QString takenId(const SpriteCollection& sprites, const QVector<FamilySprite*>& changed,
                 const QVector<AssetId>& ids)
 {
@@ -95,7 +95,7 @@ QString takenId(const SpriteCollection& sprites, const QVector<FamilySprite*>& c
     return {};
 }
 
-/// The index of each of the new colours for those of a palette, for its sprites.
+/// For each palette of the sprites, the mapping of its indices to the nearest new colours.
 QVector<Family::IndexMapping> mappingsTo(const Family::PaletteColors& colors,
                                          const QVector<FamilySprite*>& sprites)
 {
@@ -171,7 +171,7 @@ bool Recoloring::mapPixels(const QVector<FamilySprite*>& sprites, QSet<int>* bro
     return isDone;
 }
 
-/// The nearest colours are found, and pixels packed, on all processors.
+/// Finds the nearest colours and compresses pixels on all processors.
 bool Recoloring::adaptTrueColors(const QVector<FamilySprite*>& sprites)
 {
     return Zorv::runJobs<Packed>(
@@ -186,7 +186,7 @@ bool Recoloring::adaptTrueColors(const QVector<FamilySprite*>& sprites)
         });
 }
 
-/// Gives null for a sprite whose pixels are broken.
+/// The function returns null if the pixels of the sprite are broken.
 std::function<Recoloring::Packed()> Recoloring::adapter(const FamilySprite& sprite) const
 {
     return [pixels = Family::PackedPixels(*sprite.state.pixels.get()),
@@ -230,7 +230,7 @@ bool readAxisBase(const QString& name, AxisBase* base)
 
 QPoint axisPlace(AxisBase base, const QSize& size)
 {
-    // The enumeration goes by rows of three.
+    // The enumeration lists the places in rows of three.
     const auto at = [](int third, int length) {
         return third == 0 ? 0 : third == 1 ? length / 2 : qMax(length - 1, 0);
     };

@@ -29,7 +29,7 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(Operations::SpriteExport)
 };
 
-/// What is told of a sprite besides its pixels. Small, for there may be many.
+/// What is written with a sprite besides its pixels. Kept small, because there may be many.
 struct Label
 {
     AssetId id;

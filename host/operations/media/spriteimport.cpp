@@ -34,13 +34,13 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(Operations::SpriteImport)
 };
 
-/// An image on its way into a collection.
+/// An image being imported.
 struct ReadImage : ImportPixels
 {
-    std::shared_ptr<const Family::PackedImage> packed;  ///< as the sprite takes it
+    std::shared_ptr<const Family::PackedImage> packed;  ///< in the form that the sprite stores
 };
 
-/// Puts images into a collection, between two of its signals.
+/// Imports images into a collection, between two of its signals.
 class Import
 {
 public:
@@ -68,8 +68,8 @@ private:
     QVector<ImportImage> m_images;
     ImportRequest m_request;
     QVector<ImageNumber> m_numbers;
-    QVector<FamilySprite*> m_old;  ///< null for a sprite that is new
-    QVector<int> m_rows;           ///< of the images that become a sprite of their own
+    QVector<FamilySprite*> m_old;  ///< null for a new sprite
+    QVector<int> m_rows;           ///< of the images that become their own sprite
     QSet<int> m_missing;
     FamilyPalette* m_palette = nullptr;
 };
@@ -85,7 +85,7 @@ MediaResult Import::run(QVector<ImportedId>* ids)
     if (!numberAll(&result)) {
         return result;
     }
-    // A step that changes nothing is none: an undo would take back the one before it.
+    // A step without changes must not be recorded: undoing it would undo the step before instead.
     bool hasChanged = false;
     const auto watch = QObject::connect(m_sprites, &SpriteCollection::modified,
                                         [&hasChanged] { hasChanged = true; });
@@ -116,7 +116,7 @@ int Import::mode() const
                                 : Zorv::Sprite::ForcePalette;
 }
 
-/// What is done with a file on another thread: all but what needs the collection.
+/// The work of a thread for one file: everything that does not need the collection.
 std::function<ReadImage(const ImportImage&)> Import::reader() const
 {
     const auto colors = m_palette ? std::make_optional(m_palette->state.colors) : std::nullopt;
@@ -133,7 +133,7 @@ std::function<ReadImage(const ImportImage&)> Import::reader() const
     };
 }
 
-/// Images go into the collection as they come: no more than a few are in memory.
+/// Adds images as soon as they are ready, so that only a few are in memory.
 void Import::putAll(MediaResult* result)
 {
     const auto prepare = [&, toRead = reader()](int i) -> std::function<ReadImage()> {
@@ -155,7 +155,7 @@ void Import::take(int index, const ReadImage& read, MediaResult* result)
     }
 }
 
-/// What no leave helps against is told first.
+/// Errors that permission to replace cannot solve are reported first.
 bool Import::numberAll(MediaResult* refusal)
 {
     m_numbers = numberImages(m_images, m_request.numbering, *m_sprites);
@@ -179,7 +179,7 @@ bool Import::numberAll(MediaResult* refusal)
     return fault < 0;
 }
 
-/// The sprite that an image takes the place of.
+/// The sprite that an image replaces.
 FamilySprite* Import::target(int index) const
 {
     const ImportTarget& place = m_numbers.at(index).target;
@@ -204,7 +204,7 @@ bool Import::findPalette(MediaResult* result)
     return m_palette;
 }
 
-/// Colour 0 stays for what is transparent.
+/// Colour 0 is reserved for transparency.
 bool Import::makePalette(MediaResult* result)
 {
     Zorv::ColorQuantizer quantizer;
@@ -231,7 +231,7 @@ bool Import::makePalette(MediaResult* result)
     return true;
 }
 
-/// A palette that an image has brought is called as the file tells, if that is free.
+/// A new palette from an image gets the identifier stored in the file, if that is free.
 void Import::setImage(FamilySprite* sprite, const ReadImage& read)
 {
     PaletteList* palettes = m_sprites->palettes();

@@ -29,7 +29,7 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(Operations::SpriteSheet)
 };
 
-/// Puts the places of a sheet into a grid; gives the size of the whole.
+/// Arranges the places of a sheet in a grid; returns the total size.
 QSize layOut(QVector<SpriteSheet::Place>* places, int columns)
 {
     QVector<int> widths(columns, 0);
@@ -59,7 +59,7 @@ QSize layOut(QVector<SpriteSheet::Place>* places, int columns)
     return QSize(int(qMin<qint64>(width, MaxSide + 1)), int(qMin<qint64>(height, MaxSide + 1)));
 }
 
-/// The colours that all sprites show; empty if they are not the same, or one has none.
+/// The colours shared by all sprites; empty if they differ, or if a sprite has none.
 QVector<QRgb> sharedColors(const SpriteCollection& sprites,
                            const QVector<SpriteSheet::Place>& places)
 {
@@ -91,11 +91,11 @@ QImage emptySheet(const QSize& size, const QVector<QRgb>& table)
     return image;
 }
 
-/// Draws sprites on a sheet, on several threads.
+/// Draws sprites on a sheet in several threads.
 class SheetPainter
 {
 public:
-    /// Without colours sprites are shown in their own.
+    /// Without `colors`, each sprite is drawn in its own colours.
     SheetPainter(const SpriteCollection& sprites, SpriteSheet* sheet, const QVector<QRgb>& colors)
         : m_sprites(sprites), m_sheet(sheet), m_colors(colors), m_isDrawn(int(sprites.count()))
     {
@@ -127,7 +127,7 @@ public:
     }
 
 private:
-    // The rectangles do not touch, so threads share the picture without a lock.
+    // The rectangles do not overlap, so threads can share the picture without a lock.
     bool draw(int row, QImage image) const
     {
         const QRect rect = m_rects.value(row);

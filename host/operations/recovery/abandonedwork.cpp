@@ -26,7 +26,7 @@ namespace Operations {
 
 namespace {
 
-// What an array can hold.
+// The limit of a QByteArray.
 constexpr qint64 MaxCopySize = std::numeric_limits<int>::max() / 2;
 
 /// Makes the texts of this file known to translators.
@@ -84,7 +84,7 @@ bool saysTheSame(const RecoveryCopy& copy)
                : QFileInfo(copy.fileName).isFile() && contentOf(copy.fileName) == copy.assets;
 }
 
-/// As they would be in a file; a canvas is a picture there.
+/// The bytes of the file format; a canvas becomes a picture.
 QByteArray bytesOf(const RecoveryCopy& copy)
 {
     if (copy.content == RecoveryCopy::Canvas) {
@@ -103,7 +103,7 @@ QByteArray bytesOf(const RecoveryCopy& copy)
     return Zorv::TextCodecs::stringToData(content, codec);
 }
 
-/// An object without a file, of the kind that the copy is of.
+/// A new object without a file, of the kind of the copy.
 std::unique_ptr<Zorv::ProjectFile> newFile(const RecoveryCopy& copy)
 {
     if (copy.content == RecoveryCopy::Sounds) {

@@ -22,7 +22,7 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(Operations::RecoveryCopy)
 };
 
-/// Passes bytes on, and sums them up.
+/// Passes bytes on and computes their hash.
 class SummedDevice final : public QIODevice
 {
 public:
@@ -108,7 +108,7 @@ bool readFields(const QByteArray& body, RecoveryCopy* read)
 
 }  // namespace
 
-// The head is written last: it tells what has been written.
+// The header is written last, because it contains the length and the hash of the data.
 bool RecoveryCopy::write(QIODevice* device,
                          const std::function<bool(QIODevice*)>& writeAssets) const
 {

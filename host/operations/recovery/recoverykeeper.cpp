@@ -23,6 +23,13 @@
 
 #include <algorithm>
 
+// A change starts the timer. When it fires, every changed work is copied: texts at once; sprites
+// and sounds become a snapshot, which is gathered in parts between other events. The finished copy
+// goes to `writer`, a pool of one thread, so that writing, hashing and removing happen in the order
+// in which they were requested. The thread reports back through the event queue. While a copy is
+// pending, or while a slow one rests, newer changes wait for the next turn of the timer. Each work
+// is known by the state that was copied last, so an unchanged one is skipped.
+
 namespace Operations {
 
 using Family::AssetSnapshot;
@@ -34,11 +41,12 @@ namespace {
 constexpr int MaxSeconds = 24 * 60 * 60;
 constexpr int GatherMilliseconds = 4;
 
-// What takes long to write is written again when so many times as long has passed.
+// A write slower than `LongWrite` delays the next copy of the same file by `Rest` times its
+// duration.
 constexpr int LongWrite = 100;  // milliseconds
 constexpr int Rest = 10;
 
-/// What tells one unsaved state of a file from another.
+/// Identifies one unsaved state of a file.
 struct WorkState
 {
     int revision = -1;
@@ -53,21 +61,21 @@ struct WorkState
 struct Watched
 {
     int number = 0;                    ///< of the copy
-    int changes = 0;                   ///< that were told of
-    QString fileName;                  ///< whose stamp it is
-    std::shared_ptr<FileStamp> stamp;  ///< once it is made, for the thread that writes
-    bool hasHash = false;              ///< or it is on its way
+    int changes = 0;                   ///< number of changes reported
+    QString fileName;                  ///< the file of the stamp
+    std::shared_ptr<FileStamp> stamp;  ///< once made; read by the writer thread
+    bool hasHash = false;              ///< the hash was requested
     WorkState copied;
     WorkState pending;
     bool isPending = false;
     bool hasCopy = false;
-    RecoveryCopy content;                         ///< while the snapshot is being gathered
+    RecoveryCopy content;                         ///< while the snapshot is gathered
     std::shared_ptr<AssetSnapshot> snapshot;      ///< likewise
-    std::function<bool(QIODevice*)> writeAssets;  ///< in its place, of what is no file
+    std::function<bool(QIODevice*)> writeAssets;  ///< instead of a snapshot, for a `RecoveryInput`
     QDeadlineTimer rest;
 };
 
-/// How a copy was written.
+/// The result of writing a copy.
 struct Outcome
 {
     QString reason;  ///< of a failure
@@ -81,7 +89,7 @@ WorkState stateOf(const ProjectFile* file, const Watched& watched)
                     : WorkState{watched.changes, 0};
 }
 
-/// A copy that tells where its work belongs, and not what it is.
+/// A copy that says where the work belongs, but without its content.
 RecoveryCopy copyFor(const ProjectFile* file)
 {
     RecoveryCopy content;
@@ -94,7 +102,7 @@ RecoveryCopy copyFor(const ProjectFile* file)
     return content;
 }
 
-/// What is to be copied; the bytes of sprites and sounds are in the snapshot.
+/// The content to copy; the bytes of sprites and sounds are in the snapshot.
 RecoveryCopy contentOf(ProjectFile* file, std::shared_ptr<AssetSnapshot>* snapshot)
 {
     RecoveryCopy content = copyFor(file);
@@ -137,12 +145,12 @@ struct RecoveryKeeper::Private
     QHash<const RecoveryInput*, Watched> inputs;
     QTimer timer;
     QTimer gathering;
-    QThreadPool writer;  ///< of one thread: what is written and removed keeps its order
+    QThreadPool writer;  ///< one thread, so that writing and removing stay in order
     int ownInterval = -1;
     int lastNumber = 0;
     int pendingCount = 0;
     bool hasFailed = false;
-    bool isLate = false;  ///< something was left out at the last turn
+    bool isLate = false;  ///< something was postponed at the last turn
 
     void setStamp(Watched* watched, const QString& fileName);
     void addHash(Watched* watched);
@@ -224,7 +232,7 @@ void RecoveryKeeper::watchInput(const RecoveryInput* input)
     inputChanged(input);
 }
 
-/// The copy is as old as what is open of the file: that is what it would be applied to.
+/// The copy has the stamp of the open file, because that is what it would be applied to.
 void RecoveryKeeper::inputChanged(const RecoveryInput* input)
 {
     ProjectFile* file = input->file();
@@ -246,12 +254,12 @@ QString RecoveryKeeper::folder() const
 
 bool RecoveryKeeper::flush()
 {
-    // What is on its way is older than what has changed meanwhile.
+    // A copy that is already being written may be older than the last change, hence two rounds.
     for (int i = 0; i < 2; ++i) {
         d->copyAll(true);
         d->gather(-1);
         d->writer.waitForDone();
-        // The answers of the other thread are on their way.
+        // Delivers the results of the writer thread.
         QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
     }
     const auto isCopied = [this](auto* work) { return !d->needsCopy(work); };
@@ -259,7 +267,7 @@ bool RecoveryKeeper::flush()
            std::all_of(d->inputs.keyBegin(), d->inputs.keyEnd(), isCopied);
 }
 
-// To look at each image of a folder takes a while.
+// Scanning the images of a folder takes a while, so the writer thread does it.
 void RecoveryKeeper::Private::setStamp(Watched* watched, const QString& fileName)
 {
     watched->fileName = fileName;
@@ -272,7 +280,7 @@ void RecoveryKeeper::Private::setStamp(Watched* watched, const QString& fileName
     }
 }
 
-// The hash is taken with the first change only, for most files are looked at and no more.
+// Hashes only at the first change, because most files are opened and never changed.
 void RecoveryKeeper::Private::addHash(Watched* watched)
 {
     if (!watched->hasHash) {
@@ -282,7 +290,7 @@ void RecoveryKeeper::Private::addHash(Watched* watched)
     }
 }
 
-/// What is worked on beside the file goes with its new state.
+/// Work that depends on the file is copied again, with the new stamp.
 void RecoveryKeeper::Private::synchronized(ProjectFile* file)
 {
     setStamp(&files[file], file->fileName());
@@ -302,7 +310,7 @@ void RecoveryKeeper::Private::changed(ProjectFile* file)
         drop(&watched);
         return;
     }
-    // A file that is saved under another name hears of the name last.
+    // After "save as", the new file name is only known now.
     if (watched.fileName != file->fileName()) {
         setStamp(&watched, file->fileName());
     }
@@ -380,7 +388,7 @@ void RecoveryKeeper::Private::tellIfCopied()
     }
 }
 
-/// False if there is no folder for copies.
+/// False if there is no folder for the copies.
 bool RecoveryKeeper::Private::begin(Watched* watched)
 {
     QString error;
@@ -420,7 +428,7 @@ void RecoveryKeeper::Private::copy(const RecoveryInput* input, Watched* watched)
     write(watched);
 }
 
-/// One file a turn, unless all is to be had at once.
+/// Gathers one file per turn, or all of them if `milliseconds` is negative.
 void RecoveryKeeper::Private::gather(int milliseconds)
 {
     bool isDone = false;
@@ -441,7 +449,7 @@ void RecoveryKeeper::Private::gather(int milliseconds)
     isMore ? gathering.start() : gathering.stop();
 }
 
-/// What has not come to the other thread yet never will.
+/// Discards a snapshot that was not passed to the writer thread yet.
 void RecoveryKeeper::Private::forgetSnapshot(Watched* watched)
 {
     if (watched->snapshot) {
@@ -476,7 +484,7 @@ void RecoveryKeeper::Private::write(Watched* watched)
     watched->writeAssets = nullptr;
 }
 
-/// Null for what is gone.
+/// Null if the work is gone.
 Watched* RecoveryKeeper::Private::find(int number)
 {
     for (Watched& each : files) {
@@ -500,7 +508,7 @@ void RecoveryKeeper::Private::written(int number, const Outcome& outcome)
         found->isPending = false;
         const bool isLong = outcome.milliseconds > LongWrite;
         found->rest.setRemainingTime(isLong ? Rest * outcome.milliseconds : 0);
-        // It was dropped meanwhile if nothing is pending any more.
+        // Without a pending state, the copy was dropped while it was being written.
         found->hasCopy = found->hasCopy || (isDone && found->pending.revision >= 0);
         if (isDone) {
             found->copied = found->pending;

@@ -47,7 +47,7 @@ SessionFolder::~SessionFolder()
 std::unique_ptr<SessionFolder> SessionFolder::claim(const QString& path)
 {
     auto lock = std::make_unique<QLockFile>(path + QLatin1String("/lock"));
-    // However old: as long as its process lives, a lock is good.
+    // A lock is valid as long as its process lives, however old it is.
     lock->setStaleLockTime(0);
     if (!lock->tryLock(0)) {
         return nullptr;
@@ -63,9 +63,9 @@ std::unique_ptr<SessionFolder> SessionFolder::create(const QString& root, QStrin
         if (!QDir().mkdir(path)) {
             continue;
         }
-        // Unsaved texts are nobody else's business.
+        // Other users must not read unsaved texts.
         QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-        // Another process may have taken the folder for an abandoned one meanwhile.
+        // Another process may have claimed the folder as abandoned before it was locked.
         if (auto folder = claim(path)) {
             return folder;
         }

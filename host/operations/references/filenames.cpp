@@ -12,7 +12,7 @@ using Family::ParsedLine;
 
 namespace {
 
-/// Takes what the line names, and tells under which head the next one stands.
+/// Collects the names of a line and tracks the head that the next line belongs to.
 class NamePass
 {
 public:

@@ -17,8 +17,9 @@
 #include <algorithm>
 #include <tuple>
 
-// Names are kept by file, and files by project. What a name stands for is found from a project: it
-// is the same thing in every project that shares a file which says the name, and so on from there.
+// Names are stored per file, and files per project. The meaning of a name is resolved from one
+// project: it is the same in every project that shares a file in which the name occurs, and so on
+// from those projects.
 
 namespace Operations {
 
@@ -59,14 +60,14 @@ bool isAsset(NameKind kind)
     return kind == NameKind::Sprite || kind == NameKind::Sound;
 }
 
-/// The file in which a project has what is of a kind; empty if that is no file, or not named.
+/// The file of a project that contains things of a kind; empty if that is no file or not named.
 QString assetFileOf(const IndexedProject& project, NameKind kind)
 {
     const bool isOfSprites = kind == NameKind::Sprite || kind == NameKind::Palette;
     return isOfSprites ? project.sprites : kind == NameKind::Sound ? project.sounds : QString();
 }
 
-/// The palette of that identifier, and what has it.
+/// Collects the palette of that identifier, and the sprites and remaps that use it.
 void collectPalette(const QString& path, const QString& name, QVector<NameUse>* uses)
 {
     QString error;
@@ -89,7 +90,7 @@ void collectPalette(const QString& path, const QString& name, QVector<NameUse>* 
     sprites->release();
 }
 
-/// What a file of sprites or sounds says of the subject.
+/// Collects what a sprite or sound file contains of the subject.
 void collectAssets(const QString& path, const Subject& subject, QVector<NameUse>* uses)
 {
     if (subject.kind == NameKind::Palette) {
@@ -133,8 +134,9 @@ struct ReferenceIndex::Private
     QString game;
     QHash<QString, Entry> entries;
     QVector<IndexedProject> projects;
-    QHash<QString, QPair<NamesPtr, IndexedProject>> found;  // of what main files have said
-    QHash<QString, QVector<int>> users;                     // the projects of a path
+    QHash<QString, QPair<NamesPtr, IndexedProject>> found;  // for main files that were already
+                                                            // evaluated
+    QHash<QString, QVector<int>> users;                     // the projects that use a path
     int readCount = 0;
 };
 
@@ -159,8 +161,8 @@ void ReferenceIndex::setText(const QString& path, std::shared_ptr<const SourceTe
     }
 }
 
-/// Reads those that are not as they were. A state is taken in front of the reading, so that what
-/// changes meanwhile is seen the next time.
+/// Reads the changed files. The state is recorded before reading, so that a change during reading
+/// is noticed the next time.
 bool ReferenceIndex::Private::refresh(const QStringList& paths)
 {
     QStringList stale;
@@ -219,7 +221,7 @@ IndexedProject ReferenceIndex::Private::projectOf(const QString& mainFile) const
     return project;
 }
 
-/// What a main file names is looked at again only if the file says something else.
+/// The files that a main file names are only resolved again if its content has changed.
 void ReferenceIndex::Private::findProjects(const QStringList& mainFiles)
 {
     projects.clear();
@@ -297,7 +299,7 @@ bool ReferenceIndex::Private::namesFile(const IndexedProject& project, const QSt
     return project.mainFile == path;
 }
 
-/// The projects of the subject, by what they share. A file is what it is for everybody.
+/// The projects of the subject, according to what they share. A file is the same for every project.
 QVector<int> ReferenceIndex::Private::scopeOf(const Subject& subject) const
 {
     QVector<int> scope;

@@ -21,7 +21,7 @@ public:
 
     QString relative(const QString& path) const { return m_game.relativeFilePath(path); }
 
-    /// Absolute; what leads out of the game is noted.
+    /// An absolute path; a path that leads out of the game makes the journal invalid.
     QString absolute(const QJsonValue& value)
     {
         const QString path = QDir::cleanPath(m_game.absoluteFilePath(value.toString()));

@@ -17,9 +17,9 @@
 #include <algorithm>
 #include <memory>
 
-// The journal is the point from which on a change is done to its end. In front of it nothing is
-// replaced; behind it each file is either as before or as after, and a look tells which. So what a
-// killed program has left can always be brought to one of the two.
+// The journal is the point of no return. Before it is written, nothing is replaced. After that,
+// each file is in its old or its new state, and looking at it shows which. So work left by a killed
+// program can always be completed one way or the other.
 
 namespace Operations {
 
@@ -83,7 +83,7 @@ QString pathOf(const ChangeSet::Move& move)
     return move.from;
 }
 
-/// Calls `see(each, its path)` for all that changes, in the order in which that is done.
+/// Calls `see(each, its path)` for every part, in the order in which changes are made.
 template <class See>
 void forAll(const ChangeSet& changes, See see)
 {
@@ -103,7 +103,7 @@ bool moveFile(const ChangeSet::Move& move, QString* error)
     return false;
 }
 
-/// The files of a change, ready to take their places, and those to go back to.
+/// The new files, ready to replace the old ones, and copies of the old ones to go back to.
 class Replacement
 {
 public:
@@ -122,7 +122,7 @@ private:
     int m_moved = 0;
 };
 
-/// What somebody else does to a file from here on makes its renaming fail.
+/// If another program changes a file from now on, its replacement fails.
 bool Replacement::prepare(QString* error)
 {
     bool isFine = true;
@@ -173,7 +173,7 @@ bool Replacement::takeBack()
     return isDone;
 }
 
-/// Does what is not done yet, file by file.
+/// Completes the unfinished part of a change, file by file.
 class Settling
 {
 public:
@@ -283,7 +283,8 @@ bool writeChanges(const ChangeSet& changes, const QString& gameFolder, QString* 
                                                "the game is opened.");
         return false;
     }
-    // One that stays tells nothing but what is done, or that nothing is.
+    // If removing fails, the journal left behind is harmless: everything in it is done, or nothing
+    // is.
     QFile::remove(journal);
     return isDone;
 }
@@ -299,7 +300,7 @@ QStringList settleChanges(const QString& gameFolder)
     if (!turn.lock(LongestWait, &error)) {
         return {error};
     }
-    // Whoever was at work has ended by now.
+    // Another process may have completed the change while this one waited for the lock.
     if (!QFileInfo::exists(journal)) {
         return {};
     }

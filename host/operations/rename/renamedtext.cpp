@@ -27,7 +27,7 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(Operations::Rename)
 };
 
-/// The name as it is written where the old one stands: blanks and quotes stay.
+/// The new name in the notation of the old one: blanks and quotes are kept.
 QString writtenName(const QString& old, NameKind kind, const QString& name)
 {
     if (kind == NameKind::Sprite || kind == NameKind::Sound) {
@@ -48,7 +48,7 @@ QString factOf(int line, NameKind kind, bool isDefinition, const QString& name)
            name;
 }
 
-/// What a text names, line by line; those of some lines by the names that they get.
+/// The names in a text, line by line; `nameOf` supplies the new names of replaced lines.
 template <class Names>
 QStringList factsOf(const FileNames& file, Names nameOf)
 {
@@ -130,7 +130,7 @@ void RenamedText::replace(const NameUse& use, const Subject& subject, const QStr
     m_replaced.insert(use.line, {use.column, name, line});
 }
 
-/// The file may say something else by now than when its names were looked for.
+/// The file may have changed since its names were indexed.
 bool RenamedText::isNamedAt(const NameUse& use, const Subject& subject)
 {
     if (!m_names) {
@@ -154,7 +154,7 @@ bool RenamedText::isNamedAt(const NameUse& use, const Subject& subject)
     return isIt && name.start + 1 == use.column && name.end - name.start == use.length;
 }
 
-/// As a document has it: lines end in '\n'.
+/// The text as a document has it: lines end in '\n'.
 QString RenamedText::textOf(bool isNew) const
 {
     QStringList lines;
@@ -165,7 +165,7 @@ QString RenamedText::textOf(bool isNew) const
     return lines.join(QLatin1Char('\n'));
 }
 
-/// The byte-order mark is that of the file, or none.
+/// Keeps the byte-order mark of the file, if it has one.
 void RenamedText::encode(const QString& text)
 {
     m_newBytes = TextCodecs::stringToData(text, m_codec);

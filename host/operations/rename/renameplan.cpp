@@ -18,7 +18,7 @@ using Family::NameKind;
 
 namespace {
 
-constexpr int MostTold = 5;  // of places that have the name already
+constexpr int MostTold = 5;  // places to list that have the name already
 
 /// Makes the texts of this file known to translators.
 class Text
@@ -98,7 +98,7 @@ void Planner::run()
     tellEngine();
 }
 
-/// A file that cannot be read may name it, too.
+/// A file that cannot be read may contain the name too.
 void Planner::checkReadable()
 {
     QSet<QString> paths;
@@ -128,7 +128,7 @@ bool isNamedIn(const FileNames& file, const Subject& subject)
     });
 }
 
-/// What is not saved hides what the file says, which may come back by undo.
+/// An unsaved text hides names in the file on disk, and undo may bring those back.
 void Planner::checkHidden(const QVector<NameUse>& uses)
 {
     QSet<QString> paths;
@@ -147,7 +147,7 @@ void Planner::checkHidden(const QVector<NameUse>& uses)
     }
 }
 
-/// False if nothing can be planned with it.
+/// False if the new name rules out any plan.
 bool Planner::checkName()
 {
     QString error;
@@ -196,7 +196,7 @@ void Planner::checkFileName()
     }
 }
 
-/// What has the name already, or means something by it that is not there.
+/// Finds things that have the new name already, or lines that use it although nothing has it.
 void Planner::checkTaken()
 {
     QStringList places;
@@ -245,7 +245,8 @@ void Planner::planFile(const QString& path, const QVector<NameUse>& uses)
     }
 }
 
-/// Paths begin at the folders of main files. Two projects may need different ones in one line.
+/// Paths are relative to the main file's folder. A line shared by two projects may need two
+/// different ones.
 QString Planner::newNameIn(const QString& path)
 {
     if (m_subject.kind != NameKind::File) {
@@ -333,7 +334,7 @@ void Planner::tellProjects()
             .arg(others.join(QLatin1String(", "))));
 }
 
-/// Engines know some animations and commands by their names alone.
+/// Engines refer to some animations and commands by fixed names.
 bool isKnownToEngines(NameKind kind, const QString& name)
 {
     if (kind == NameKind::Command) {

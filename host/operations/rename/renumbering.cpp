@@ -34,8 +34,8 @@ struct Release
     void operator()(Zorv::ProjectFile* file) const { file->release(); }
 };
 
-/// All of that identifier: who shows the first one goes on to. False if one is broken, for that
-/// keeps all that it has.
+/// Renames all items with this identifier, because users of the first one would otherwise find the
+/// next. False if one is broken, because a broken record cannot be changed.
 template <class Items>
 bool rename(const Items& items, AssetId from, AssetId to)
 {
@@ -55,7 +55,7 @@ QString brokenText(const ChangeSet::Asset& asset)
         .arg(QDir::toNativeSeparators(asset.path), asset.from.text());
 }
 
-/// What the remaps of a collection say of a palette goes along.
+/// Updates the remaps that refer to a palette.
 void redirect(Family::RemapModel* remaps, AssetId from, AssetId to)
 {
     for (int i = 0; i < remaps->rowCount() * Family::RemapModel::ColumnCount; ++i) {
