@@ -52,7 +52,7 @@ private:
     QList<Family::FamilyProject*> m_projects;
 };
 
-/// The folder of the game that was named; empty, and told, if it is none.
+/// The folder of the named game. If it is not a game, prints an error and returns nothing.
 QString gameOf(const QString& path)
 {
     const QFileInfo info(path);

@@ -23,7 +23,7 @@ QString numbers(const QVector<int>& list)
     return texts.join(QLatin1Char(' '));
 }
 
-/// "3", and "3(4)2" with a gap of four ticks in between.
+/// "3", or "3(4)2" with a gap of four ticks.
 QString activeText(const QVector<ActiveTime>& times)
 {
     QString text = QString::number(times.first().ticks);

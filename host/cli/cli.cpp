@@ -67,14 +67,14 @@ int refuseUnknown(const QStringList& arguments)
         {});
 }
 
-/// True if the argument at a place is what an option of the command takes.
+/// True if an argument is the value of the option before it.
 bool isValue(const Command& command, const QStringList& arguments, int place)
 {
     const OptionInfo* option = findOption(command.options, arguments.value(place - 1));
     return option && option->value;
 }
 
-/// Help is asked for in the place of a command, or anywhere behind one.
+/// Accepts help in place of a command, or anywhere after one.
 QStringList withHelpInFront(const QStringList& arguments)
 {
     const QString help = QStringLiteral("help");
@@ -99,7 +99,7 @@ QStringList withHelpInFront(const QStringList& arguments)
     return arguments;
 }
 
-/// A change of several files that was cut off is brought to its end in front of all else.
+/// Finishes an interrupted change of several files before any other work.
 void settleGameOf(const QString& operand)
 {
     if (operand.isEmpty() || !QFileInfo::exists(operand)) {
@@ -137,7 +137,7 @@ bool isCommand(const QStringList& arguments)
     }
     const QString first = arguments.first();
     if (first.startsWith(QLatin1Char('-'))) {
-        // Those with one dash are Qt's, but for this one.
+        // Options with one dash belong to Qt, except this one.
         return first == QLatin1String("-h") ||
                (first.startsWith(QLatin1String("--")) && first != QLatin1String("--screenshot"));
     }

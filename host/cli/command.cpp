@@ -330,7 +330,7 @@ constexpr Command table[] = {
 };
 // clang-format on
 
-/// Takes the option that stands at `*index`, with the text behind it.
+/// Parses the option at `*index` and its value.
 bool parseOption(const Command& command, const QStringList& arguments, int* index,
                  Invocation* invocation, QString* error)
 {
@@ -402,7 +402,7 @@ bool parseArguments(const Command& command, const QStringList& arguments, Invoca
     bool readsOptions = true;
     for (int i = 0; i < arguments.size(); ++i) {
         const QString& argument = arguments.at(i);
-        // A single dash is the sign of a number.
+        // A single dash may be the sign of a number.
         const bool isOption =
             argument.startsWith(QLatin1String("--")) ||
             (argument == QLatin1String("-o") && findOption(command.options, argument));

@@ -39,7 +39,7 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(Cli)
 };
 
-/// Both animations, and how they differ.
+/// Both animations and their differences.
 struct Comparison
 {
     const Operations::OpenAnimation& before;
@@ -109,7 +109,7 @@ QString arrow(const QString& before, const QString& after)
     return before + QLatin1String(" -> ") + after;
 }
 
-/// A frame by itself: its sprite, the options that are not as without them, and its boxes.
+/// A frame as text: its sprite, the options that differ from their defaults, and its boxes.
 QString frameText(const FrameRecord& frame)
 {
     QString text = QStringLiteral("%1,%2").arg(QString::number(frame.data.group),
@@ -176,7 +176,7 @@ QJsonArray arrayOf(const QRect& rect)
     return {rect.left(), rect.top(), rect.right(), rect.bottom()};
 }
 
-/// What there is on either side, as "old" and "new".
+/// Adds the values of both sides, as "old" and "new".
 template <class Value>
 void insertBoth(QJsonObject* object, int oldPlace, const Value& before, int newPlace,
                 const Value& after)

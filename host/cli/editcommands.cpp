@@ -81,7 +81,7 @@ bool toPosition(const QString& text, int count, int* position, QString* error)
     return false;
 }
 
-/// What is removed may be missed: that is told, and no failure.
+/// Warns about places that use what is removed. That is not an error.
 void tellUses(const Operations::Removal& removal)
 {
     const QDir game(Family::FamilyParentProject::folderOf(removal.path));

@@ -32,7 +32,7 @@ struct Release
 
 using Document = std::unique_ptr<FamilyDocument, Release>;
 
-// What can be done here about a file that its encoding would spoil.
+// Advice for a file that would not survive its encoding.
 QString encodingAdvice(const QString& fileName)
 {
     const int codec = Operations::faithfulCodec(fileName);

@@ -8,6 +8,13 @@
 #include <thread>
 #include <unistd.h>
 
+// The signal handler only writes the number of the signal to a pipe: little else is allowed in a
+// handler. A detached thread reads the pipe. Unless a NotedSignals with unlimited patience exists,
+// the thread ends the program. If one with a moment's patience exists, it first waits that long for
+// the work to end by itself; a second signal cuts the wait short. To end, it deletes unfinished
+// files and raises the signal again with its default action, so that the parent process sees the
+// true reason.
+
 namespace Cli {
 
 namespace {

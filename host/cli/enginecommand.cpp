@@ -37,7 +37,7 @@ using Zorv::EngineInfo;
 using Zorv::RunResult;
 
 constexpr int PollMilliseconds = 20;
-constexpr int SignalStatus = 128;  // and the number of the signal, as in a shell
+constexpr int SignalStatus = 128;  // plus the number of the signal, as in a shell
 
 /// Makes the texts of this file known to translators.
 class Text
@@ -45,7 +45,7 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(Cli)
 };
 
-/// The projects of the command, each in its game.
+/// The open projects of the command, each in its game.
 class RunHost final : public Operations::HostInterface
 {
 public:
@@ -72,7 +72,7 @@ private:
     QList<FamilyProject*> m_projects;
 };
 
-/// What stands for the one project in a folder; another name stays as it is.
+/// The main file of a folder with one project; any other name is unchanged.
 QString mainFileOf(const QString& name)
 {
     const QStringList files =
@@ -117,7 +117,7 @@ bool RunHost::open(const QString& name, QString* error)
     return true;
 }
 
-/// Passes messages on until the engine has ended: how that went is told in other words.
+/// Forwards messages only until the engine has ended: the result is reported in other words.
 class RunDialogs final : public Zorv::Dialogs
 {
 public:
@@ -150,8 +150,8 @@ private:
     bool m_quiet = false;
 };
 
-// As a shell does it: a word alone is no file of the current folder, which a stranger may have
-// made.
+// As in a shell, a plain name is not a file in the current folder, because that may contain
+// untrusted programs.
 QString programPath(const QString& name)
 {
     if (!name.contains(QLatin1Char('/'))) {
@@ -160,14 +160,14 @@ QString programPath(const QString& name)
     return QFileInfo(name).isFile() ? QFileInfo(name).absoluteFilePath() : QString();
 }
 
-/// As a person in the current folder would name it.
+/// The path relative to the current folder, if the file is inside it.
 QString shownPath(const QString& path)
 {
     const QString here = QDir::currentPath() + QLatin1Char('/');
     return path.startsWith(here) ? path.mid(here.size()) : path;
 }
 
-/// The engine that `--engine` names: a configured one, else a program.
+/// The engine that `--engine` names: a configured one, otherwise a program.
 bool findEngine(const QString& name, const FamilyParentProject* game, int kind,
                 QVector<EngineInfo>* engines, QString* error)
 {
@@ -192,7 +192,7 @@ bool findEngine(const QString& name, const FamilyParentProject* game, int kind,
     return true;
 }
 
-/// Whether the program of the game folder may be started. `error` tells why not.
+/// Whether the program of the game folder may be started; if not, `error` says why.
 bool isTrusted(const Invocation& invocation, const GameProgram& program, QSettings& settings,
                QString* error)
 {
@@ -216,7 +216,7 @@ bool isTrusted(const Invocation& invocation, const GameProgram& program, QSettin
     return error->isEmpty();
 }
 
-/// Puts the engines that come into question into the model.
+/// Puts the possible engines into the model.
 bool chooseEngines(const Invocation& invocation, const RunHost& host, QSettings& settings,
                    QString* error)
 {
@@ -241,7 +241,7 @@ bool chooseEngines(const Invocation& invocation, const RunHost& host, QSettings&
     return error->isEmpty();
 }
 
-/// Says what went wrong; gives the status.
+/// Prints what went wrong; returns the status.
 int tell(const RunResult& result)
 {
     for (const QString& file : result.failedFiles) {
@@ -273,7 +273,7 @@ int tell(const RunResult& result)
     return NotedSignals::received() == 0 ? int(NotDone) : NotedSignals::exitStatus();
 }
 
-/// Those of runs that were killed.
+/// Removes temporary copies of runs that were killed.
 void removeLeftCopies()
 {
     const QList<Zorv::TemporaryCopies::Leftover> leftovers = Zorv::TemporaryCopies::leftovers();

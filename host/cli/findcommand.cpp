@@ -33,7 +33,7 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(Cli)
 };
 
-/// One call of the command.
+/// One run of the command.
 class Finding
 {
 public:
@@ -67,7 +67,7 @@ private:
     bool m_hasFailed = false;
 };
 
-/// Names begin as the place does.
+/// Printed file names begin as `place` does.
 void Finding::findIn(const QString& place)
 {
     const QFileInfo info(place);

@@ -20,7 +20,7 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(Cli)
 };
 
-/// Writes one of the texts, unless its file has changed since.
+/// Writes a fixed text, unless its file has changed since.
 int writeMended(const Operations::MendedText& mended, Invocation invocation, Output& output)
 {
     const bool isRelative = QDir::isRelativePath(invocation.operands.first());

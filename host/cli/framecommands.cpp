@@ -23,7 +23,7 @@ QString tr(const char* text)
     return QCoreApplication::translate("Cli", text);
 }
 
-/// All animations without a reference.
+/// Finds the referenced animations; all if there are no references.
 bool findAnimations(const FamilyAnimations* list, const QStringList& references,
                     QVector<int>* indexes, QString* error)
 {
@@ -39,7 +39,7 @@ bool findAnimations(const FamilyAnimations* list, const QStringList& references,
     return true;
 }
 
-/// The frames that get the boxes of another.
+/// The frames that receive the boxes of another frame.
 bool findTargets(const FamilyAnimations* list, const Zorv::FramePlace& source,
                  const Invocation& invocation, QVector<Zorv::FramePlace>* targets, QString* error)
 {

@@ -18,7 +18,7 @@ namespace Cli {
 
 namespace {
 
-/// False, with what went wrong in `error` or told already.
+/// False on failure. The reason is in `error`, or already printed.
 bool writeGif(const Family::FamilyDocument* document, const Invocation& invocation, QString* error)
 {
     const Family::FamilyAnimations* list = document->animations();

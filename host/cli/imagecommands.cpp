@@ -31,7 +31,7 @@ int editImages(const Invocation& invocation, const Operations::ImageEdit& edit)
     return tell(Operations::editImages(files, invocation.output, edit));
 }
 
-/// One palette for all images.
+/// Quantizes all images to one common palette.
 int quantizeTogether(const Invocation& invocation)
 {
     QString error;

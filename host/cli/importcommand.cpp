@@ -38,7 +38,7 @@ QString textOf(SpriteNumber sprite)
                                        QString::number(sprite.number));
 }
 
-/// One import into a file of animations, and into its sprites.
+/// One import of animations into a file, and of sprites into its sprite file.
 class Import
 {
 public:
@@ -63,7 +63,7 @@ private:
     Zorv::AssetResult m_assets;
 };
 
-/// Without a word on conflicts there must be none.
+/// Conflicts are only allowed with an option that resolves them.
 bool Import::checkConflicts(const Zorv::AnimationImport& plan, QString* error) const
 {
     const Zorv::AnimationImportResult& planned = plan.planned();
@@ -136,7 +136,7 @@ void Import::takeBackSprites()
     }
 }
 
-/// A line for each fact: what, of what, which or how many, and its new number.
+/// One line for each fact: what happened, to what, which or how many, and the new number.
 class Report
 {
 public:

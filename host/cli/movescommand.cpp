@@ -28,7 +28,7 @@ class Text
 
 constexpr const char* levelNames[] = {"high", "middle", "low", "throw"};
 
-/// "3(4)2": ticks with attack boxes, and the gaps between.
+/// "3(4)2": ticks with attack boxes, and the gaps between them.
 QString activeText(const MoveFacts& facts)
 {
     QString text;

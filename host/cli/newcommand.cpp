@@ -11,7 +11,7 @@ namespace Cli {
 
 namespace {
 
-/// Prints where the new thing is, as the person would name it from here.
+/// Prints the path of the new thing, relative to the current folder if possible.
 int finish(const Operations::Created& created, Output& output)
 {
     if (!created.error.isEmpty()) {

@@ -34,7 +34,7 @@ QString expected(const char* what, const QString& found)
     return tr("Expected %1; found '%2'.").arg(tr(what), found);
 }
 
-/// Reads a whole number of a range.
+/// Parses an integer in a range.
 bool takeNumber(const QString& text, int least, int most, int* number)
 {
     bool isNumber = false;
@@ -79,7 +79,7 @@ QString takeAxis(const QString& text, Invocation& invocation)
                : expected(QT_TRANSLATE_NOOP("Cli", "two numbers such as 32,96"), text);
 }
 
-/// A pixel, or a place of the image.
+/// Accepts a pixel, or a named point of the image.
 QString takeImageAxis(const QString& text, Invocation& invocation)
 {
     invocation.hasAxis = Operations::readAxisBase(text, &invocation.axisBase) &&
@@ -213,7 +213,7 @@ QString takeFindOption(const QString&, Invocation& invocation)
     return {};
 }
 
-/// A suffix, with its dot or without; several in several options.
+/// Accepts a suffix with or without dot. The option may occur several times.
 QString takeKind(const QString& text, Invocation& invocation)
 {
     const QString suffix = text.startsWith(QLatin1Char('.')) ? text : QLatin1Char('.') + text;
@@ -226,7 +226,7 @@ QString takeKind(const QString& text, Invocation& invocation)
                           text);
 }
 
-/// An empty text is one to put in the place, too.
+/// An empty text is a valid replacement too.
 QString takeReplacement(const QString& text, Invocation& invocation)
 {
     invocation.replacement = text.isNull() ? QLatin1String("") : text;

@@ -22,7 +22,7 @@ bool isControl(QChar c)
            c.category() == QChar::Separator_Paragraph;
 }
 
-/// "\x1b", "\u2028".
+/// Such as "\x1b" or "\u2028".
 QString escaped(QChar c)
 {
     const bool isByte = c.unicode() < 0x100;
@@ -30,7 +30,7 @@ QString escaped(QChar c)
            QString::number(c.unicode(), 16).rightJustified(isByte ? 2 : 4, QLatin1Char('0'));
 }
 
-/// What a terminal would obey becomes signs, but for line ends and tabs.
+/// Escapes everything that a terminal would interpret, except line ends and tabs.
 QString forTerminal(const QString& text)
 {
     QString result;

@@ -27,10 +27,10 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(Cli)
 };
 
-/// What is done with the palettes of these rows.
+/// An edit of the palettes in these rows.
 using PaletteEdit = std::function<MediaResult(Family::SpriteCollection*, const QVector<int>& rows)>;
 
-/// Changes the palettes of the first operand that are meant.
+/// Edits the selected palettes of the first operand.
 int editPalettes(const Invocation& invocation, const PaletteEdit& edit)
 {
     return editSpriteFile(invocation.operands.first(), OpenSprites::There, [&](auto* sprites) {
@@ -61,7 +61,8 @@ bool readKey(const QString& name, PaletteKey* key)
     return keys.contains(name);
 }
 
-/// Slots in their new order among the places that they have: "7,3,5". Each at most once.
+/// Parses slots in their new order, such as "7,3,5". Each slot may occur once. They keep the places
+/// that they occupy together.
 bool readOrder(const QString& text, PaletteOrder* order)
 {
     QVector<quint8> wanted;
@@ -82,13 +83,13 @@ bool readOrder(const QString& text, PaletteOrder* order)
     return true;
 }
 
-/// How the entries of the first palette are sorted.
+/// The order that results from sorting the first palette.
 PaletteOrder orderBy(PaletteKey key, const Family::FamilyPalette& palette,
                      const Invocation& invocation)
 {
     Zorv::PaletteSorting sorting;
     sorting.setFlag(Zorv::PaletteSort::Descending, invocation.isDescending);
-    // Whoever names slots means all of them.
+    // Slots named by the user are all sorted, including the ones normally left in place.
     const bool isNamed = invocation.lastSlot >= 0;
     sorting.setFlag(Zorv::PaletteSort::MovesFirst, isNamed);
     sorting.setFlag(Zorv::PaletteSort::MovesTransparent, isNamed);

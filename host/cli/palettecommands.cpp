@@ -114,7 +114,7 @@ void writeUses(const Family::SpriteCollection& sprites, const Operations::Palett
     }
 }
 
-/// Gives palettes of a sprite file other colours.
+/// Replaces the colours of palettes in a sprite file.
 int applyToSprites(const Invocation& invocation, const Zorv::RGBA (&colors)[256])
 {
     const QString fileName = invocation.operands.at(1);
@@ -200,7 +200,7 @@ int applyPalette(const Invocation& invocation, Output&)
     ProgressHost host;
     const QStringList names = invocation.operands.mid(1);
     if (std::any_of(names.begin(), names.end(), isSpriteFile)) {
-        // What is written elsewhere takes the lock of that place.
+        // If the result goes elsewhere, only that place is locked.
         const auto others = invocation.output.place.isEmpty() ? Operations::Others::Wait
                                                               : Operations::Others::GoAhead;
         return names.size() == 1

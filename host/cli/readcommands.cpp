@@ -71,7 +71,7 @@ void writeTree(const FamilyDocument* document, Output& output)
     }
 }
 
-// One node a line; an object stays open for the nodes that belong to it.
+// One node per line; an object stays open until its child nodes are written.
 void writeJsonTree(const FamilyDocument* document, Output& output)
 {
     const auto paths = Family::nodePaths(document);

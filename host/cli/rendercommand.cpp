@@ -26,7 +26,7 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(Cli)
 };
 
-/// What is wrong with the options; empty if nothing is.
+/// What is wrong with the options; empty if they are valid.
 QString optionFault(const Invocation& invocation)
 {
     const QByteArray suffix = QFileInfo(invocation.output.place).suffix().toLower().toLatin1();
@@ -46,7 +46,7 @@ QString optionFault(const Invocation& invocation)
 
 using Operations::Outcome;
 
-/// The files of a picture and, for a sheet, of what is told of it.
+/// The output files: the picture and, for a sheet, its description.
 struct Outputs
 {
     Operations::OutputFiles image;
@@ -78,7 +78,7 @@ Family::FrameStyle styleOf(const Invocation& invocation)
     return style;
 }
 
-/// Draws and writes what was asked for.
+/// Draws and writes the requested picture.
 Outcome render(const Invocation& invocation, const Family::AnimationNode& animation,
                Family::FrameComposer* composer, const Outputs& outputs)
 {

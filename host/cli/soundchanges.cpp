@@ -39,7 +39,7 @@ bool isGiven(double level)
     return level < Invocation::None;
 }
 
-/// Rounded, and without the sign of a zero.
+/// Rounds to tenths, and avoids a negative zero.
 double tenths(double value)
 {
     return std::isfinite(value) ? std::round(value * 10) / 10 + 0.0 : value;
@@ -50,7 +50,7 @@ QString levelText(double level)
     return std::isfinite(level) ? QString::number(tenths(level), 'f', 1) : QStringLiteral("-inf");
 }
 
-/// What is printed of a change behind its place.
+/// What to print of a change after its place.
 enum class Facts { Form, Gain };
 
 void print(const QVector<SoundChange>& changes, Facts facts, bool asJson, Output& output)
@@ -75,7 +75,7 @@ void print(const QVector<SoundChange>& changes, Facts facts, bool asJson, Output
     }
 }
 
-/// Changes the selected sounds of the first operand, unless it is only asked what would change.
+/// Edits the selected sounds of the first operand; with `--dry-run` only shows the changes.
 int editSounds(const Invocation& invocation, const QString& title,
                const Operations::SoundEdit& edit, Facts facts, Output& output)
 {
@@ -99,7 +99,7 @@ int editSounds(const Invocation& invocation, const QString& title,
     return status;
 }
 
-/// A sound that is measured: of a sound file, or a file of its own.
+/// A sound to measure: from a sound file, or a file of its own.
 struct Heard
 {
     QString file;
@@ -134,8 +134,8 @@ void print(const Heard& heard, const SoundLoudness& loudness, JsonList* list, Ou
     list->add(object);
 }
 
-/// Measures the sounds of one file. False if it is a sound file that cannot be read, which was
-/// told.
+/// Measures the sounds of one file. False if it is a sound file that cannot be read; the error was
+/// printed.
 bool measure(const QString& file, const Invocation& invocation, JsonList* list, Output& output,
              MediaResult* result)
 {

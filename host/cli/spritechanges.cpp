@@ -23,10 +23,10 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(Cli)
 };
 
-/// What is done with the sprites of these rows.
+/// An edit of the sprites in these rows.
 using SpriteEdit = std::function<MediaResult(Family::SpriteCollection*, const QVector<int>& rows)>;
 
-/// Changes the selected sprites of the first operand.
+/// Edits the selected sprites of the first operand.
 int editSprites(const Invocation& invocation, const SpriteEdit& edit)
 {
     return editSpriteFile(invocation.operands.first(), OpenSprites::There, [&](auto* sprites) {

@@ -73,7 +73,8 @@ QJsonObject objectOf(const FamilySprite& sprite)
     return object;
 }
 
-/// The colours of `--palette`, null if none was asked for. False if there are none such.
+/// The colours of `--palette`; `given` is null if the option is missing. False if there is no such
+/// palette.
 bool givenColors(const Invocation& invocation, const SpriteCollection& sprites,
                  PaletteColors* colors, const PaletteColors** given)
 {
@@ -120,7 +121,7 @@ Operations::ImportRequest importRequest(const Invocation& invocation)
     return request;
 }
 
-/// What is wrong with the options of an import; empty if nothing is.
+/// What is wrong with the options of an import; empty if they are valid.
 QString importFault(const Invocation& invocation)
 {
     using Family::PixelCodec;
@@ -151,8 +152,8 @@ SheetImages cutFile(const QString& file, const SheetForm& form)
     return picture.isNull() ? cut : Operations::cutPicture(file, picture, form.cut);
 }
 
-/// The images of files, of which some are sheets. False with `result`, which also takes what is to
-/// be told besides.
+/// Reads images from files, some of which are sheets. On failure returns false with the error in
+/// `result`, which also receives warnings.
 bool readImages(const Invocation& invocation, const QStringList& files,
                 QVector<Operations::ImportImage>* images, Operations::MediaResult* result)
 {

@@ -2,6 +2,10 @@
 
 #include <algorithm>
 
+// Both fighters are tested before anything is applied, so the result does not depend on their
+// order. If both hit in the same tick, the move with the higher priority wins. With equal priority
+// both hit, except two throws: they cancel each other.
+
 namespace Rules {
 
 using Family::AnimationRole;

@@ -3,6 +3,12 @@
 #include "rules/gamereader.h"
 #include "rules/tick.h"
 
+// The facts are measured by playing the move in the real rules, against the same character on a
+// very wide stage. Alone: without gravity, the ticks with attack boxes are counted until the move
+// ends. Hit and guarded: from the nearest distance at which both can stand, the distance is
+// increased until the move connects. The advantage is the difference between the ticks in which
+// both become free.
+
 namespace Rules {
 
 namespace {

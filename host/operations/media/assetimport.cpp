@@ -9,6 +9,12 @@
 
 #include <algorithm>
 
+// Pixels are transferred first, and equal pixels become one shared object in the destination. So
+// two sprites look the same only if they refer to the same pixels. Then each sprite that can keep
+// its number does. The others are compared with the sprite at their number, then with sprites of
+// the same pixels, and get a free number if none is equal. Only sprites that are really new are
+// added.
+
 namespace Operations {
 
 using Family::AssetHistory;

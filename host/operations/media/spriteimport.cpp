@@ -15,6 +15,10 @@
 
 #include <optional>
 
+// All numbers are chosen before anything is read, so a conflict changes nothing. Worker threads
+// then read, crop and compress the images. The main thread adds each one as it arrives. If an image
+// fails, and may not be left out, the step that was begun is undone.
+
 namespace Operations {
 
 using Family::AssetHistory;
