@@ -6,8 +6,8 @@
 
 namespace Family {
 
-/// A cache as the setting "cache_type" asks for it; in memory if there is no place for a temporary
-/// file.
+/// A cache of the kind chosen by the setting "cache_type"; in memory if a temporary file cannot be
+/// created.
 std::unique_ptr<Zorv::StreamCache> newAssetCache();
 
 }  // namespace Family

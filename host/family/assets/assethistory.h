@@ -8,14 +8,14 @@
 
 namespace Family {
 
-/// The undo of a collection: steps of changes, shared by all lists of one file.
+/// The undo history of a collection: steps of changes, shared by all lists of one file.
 ///
-/// A list changes itself, then records how to go back and forth. Records that only a step still
-/// knows live in it. Main thread only.
+/// A list first changes itself, then records how to undo and redo the change. Records that only a
+/// step still uses are kept alive by it. Main thread only.
 class AssetHistory
 {
 public:
-    /// One change, done already when it is recorded.
+    /// One change; already done when it is recorded.
     class Change
     {
     public:
@@ -24,7 +24,7 @@ public:
         virtual void redo() = 0;
     };
 
-    /// Another value in a place that outlives the history. It changes when it is recorded.
+    /// Changes a value whose location outlives the history. Recording it makes the change.
     template <class Value>
     class Swap final : public Change
     {
@@ -38,7 +38,7 @@ public:
         Value m_other;
     };
 
-    /// Opens a step, and closes it at the end of a block.
+    /// Opens a step and closes it at the end of a block.
     class Step
     {
     public:
@@ -53,8 +53,8 @@ public:
         AssetHistory& m_history;
     };
 
-    /// Keeps all records where they are for as long as it lives: who would replace them, as
-    /// reading the file again does, asks `isHeld()` first.
+    /// Keeps all records in place while it lives. Code that would replace them, such as reloading
+    /// the file, first checks `isHeld()`.
     class Hold
     {
     public:
@@ -66,53 +66,53 @@ public:
         int& m_holds;
     };
 
-    /// `changed` is called after each step that was made, undone or redone, when all is true
-    /// again.
+    /// `changed` is called after each step that was made, undone or redone, when everything is
+    /// consistent again.
     explicit AssetHistory(std::function<void()> changed);
     ~AssetHistory();
 
-    /// Open and close a step. Steps in a step are one, named by the outermost title that is not
-    /// empty. One without a change leaves nothing behind.
+    /// Open and close a step. Nested steps form one step, named by the outermost non-empty title. A
+    /// step without a change leaves no trace.
     void begin(const QString& title);
     void end();
 
-    /// Names the open step by what was done first in it, for work that ends there. So a step does
-    /// not promise what was given up. Nothing if nothing is done yet.
+    /// Names the open step after its first part, for work that is cancelled halfway: the title then
+    /// does not promise what was not done. Does nothing if nothing is done yet.
     void nameByFirstPart();
 
     /// True inside of a step.
     bool isOpen() const { return m_depth > 0; }
 
-    /// True while records are in use: in a step, or held.
+    /// True while records are in use: during a step, or while held.
     bool isHeld() const { return m_depth > 0 || m_holds > 0; }
 
-    /// Takes a change up; in a step of its own if none is open. Steps that were undone are gone.
+    /// Records a change, in a step of its own if none is open. Drops all undone steps.
     void record(std::unique_ptr<Change> change);
 
-    /// True while a step is undone or redone: nothing is to be recorded.
+    /// True during undo or redo: nothing must be recorded then.
     bool isReplaying() const { return m_replaying; }
 
-    /// Go one step back or forth; nothing if there is none, or a step is open.
+    /// Undo or redo one step; do nothing if there is none or a step is open.
     void undo();
     void redo();
     bool canUndo() const { return m_done > 0; }
     bool canRedo() const { return m_done < int(m_steps.size()); }
 
-    /// The title of the step that `undo()` or `redo()` would take; empty without one.
+    /// The title of the step that `undo()` or `redo()` would process; empty if there is none.
     QString undoTitle() const;
     QString redoTitle() const;
 
-    /// The state that was saved: `isClean()` is true in it, however it is reached. What was saved
-    /// in the middle of a step is no state that undo leads to: then none is clean. `setDirty()` is
-    /// for a content that is in no file.
+    /// The saved state: `isClean()` is true in it, however it is reached. A state saved in the
+    /// middle of a step cannot be reached by undo; then no state is clean. `setDirty()` is for
+    /// content that is in no file.
     bool isClean() const { return m_done == m_clean && m_open.changes.empty(); }
     void setClean() { m_clean = m_open.changes.empty() ? m_done : -1; }
     void setDirty() { m_clean = -1; }
 
-    /// True if `isClean()` is another one than when this was asked last.
+    /// True if `isClean()` has changed since the last call.
     bool hasCleanChanged();
 
-    /// Forgets all steps; the present state is clean.
+    /// Drops all steps; the current state becomes clean.
     void clear();
 
 private:
@@ -126,10 +126,10 @@ private:
     std::function<void()> m_changed;
     std::vector<Entry> m_steps;
     Entry m_open;
-    QString m_part;       // the title of the step that is open in the open one,
-    QString m_firstPart;  // and that of the first change
-    int m_done = 0;       // steps in front of here are done, those behind undone
-    int m_clean = 0;      // the value of m_done when it was saved; -1 if that is out of reach
+    QString m_part;       // the title of the nested step that is open,
+    QString m_firstPart;  // and the title of the first change
+    int m_done = 0;       // number of done steps; the others are undone
+    int m_clean = 0;      // m_done at the last save; -1: unreachable
     int m_depth = 0;
     mutable int m_holds = 0;
     bool m_replaying = false;

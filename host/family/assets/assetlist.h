@@ -10,15 +10,15 @@
 
 namespace Family {
 
-/// A list model of records whose every change can be undone: the common half of sprites,
-/// palettes, sounds and remaps.
+/// A list model of records with undo for every change: the common base of sprites, palettes, sounds
+/// and remaps.
 ///
-/// `Base` is the model that is derived from; it ends in a `QAbstractItemModel`. `Item` is an object
-/// that keeps its address as long as the list or a step of undo knows it, with two members: `State
-/// state`, all that can change in it, and `int row`, its place, -1 outside of the list.
+/// `Base` is the base class, derived from `QAbstractItemModel`. The address of an `Item` is stable
+/// as long as the list or an undo step knows it. It has two members: `State state`, everything in
+/// it that can change, and `int row`, its row, or -1 outside of the list.
 ///
-/// The four operations below are the only ones that change the list. They record themselves in the
-/// history, call `listChanged()`, and signal to views at once.
+/// Only the four operations below change the list. They record themselves in the history, call
+/// `listChanged()`, and notify views at once.
 template <class Base, class Item>
 class AssetList : public Base
 {
@@ -33,21 +33,21 @@ public:
 
     const QVector<ItemPtr>& items() const { return m_items; }
 
-    /// Null for a row outside of the list.
+    /// Null if out of range.
     Item* item(int row) const
     {
         return row < 0 || row >= m_items.size() ? nullptr : m_items[row].get();
     }
 
 protected:
-    /// The arguments behind the history go to `Base`.
+    /// The arguments after `history` go to `Base`.
     template <class... Args>
     explicit AssetList(AssetHistory* history, Args&&... args)
         : Base(std::forward<Args>(args)...), m_history(history)
     {
     }
 
-    /// Puts items in front of a row, 0 to the number of rows.
+    /// Inserts items before a row; the row count appends.
     void insertItems(int row, const QVector<ItemPtr>& items)
     {
         if (!items.isEmpty()) {
@@ -55,7 +55,7 @@ protected:
         }
     }
 
-    /// Takes `count` items from a row on out of the list.
+    /// Removes `count` items, beginning at a row.
     void removeItems(int row, int count)
     {
         if (count > 0) {
@@ -63,7 +63,7 @@ protected:
         }
     }
 
-    /// Puts the items in another order: `order` has the present row of each.
+    /// Changes the order; `order` lists the current rows in their new order.
     void reorderItems(const QVector<int>& order)
     {
         if (!std::is_sorted(order.begin(), order.end())) {
@@ -73,7 +73,7 @@ protected:
         }
     }
 
-    /// Moves one item so that it stands at `to` afterwards.
+    /// Moves one item so that its new row is `to`.
     void moveItem(int from, int to)
     {
         if (from != to && item(from) && item(to)) {
@@ -81,7 +81,7 @@ protected:
         }
     }
 
-    /// Gives an item of the list another state. One that is in no list takes it without undo.
+    /// Changes the state of an item. Without undo if the item is in no list.
     void changeItem(Item* item, const State& state)
     {
         if (item->row < 0) {
@@ -93,7 +93,7 @@ protected:
         perform(std::move(edit));
     }
 
-    /// Replaces everything, without undo; for a file that was read.
+    /// Replaces everything without undo, after reading a file.
     void resetItems(QVector<ItemPtr> items)
     {
         this->beginResetModel();
@@ -107,7 +107,7 @@ protected:
         listChanged(true);
     }
 
-    /// Lets go of all items without telling views; for a list that dies, or is about to be reset.
+    /// Releases all items without notifying views; for a list that is being destroyed or reset.
     void dropItems()
     {
         for (const ItemPtr& item : m_items) {
@@ -118,17 +118,17 @@ protected:
         m_items.clear();
     }
 
-    /// After each change, also of undo; `count` is true if rows came or went.
+    /// Called after each change, undo included; `count` is true if rows were added or removed.
     virtual void listChanged(bool count) = 0;
 
-    /// For what a list counts: a state has come into it, or left it.
+    /// For lists that keep counts: a state was added or removed.
     virtual void stateCame(const State&) {}
     virtual void stateWent(const State&) {}
 
-    /// An item has left the list; undo may bring it back.
+    /// An item was removed from the list; undo may restore it.
     virtual void itemWent(Item&) {}
 
-    /// The rows that views show have changed with their items; all columns are told.
+    /// Notifies views of all columns of these rows.
     void tellRows(int first, int last)
     {
         const QAbstractItemModel& model = *this;
@@ -152,11 +152,11 @@ private:
 
         AssetList* list;
         Kind kind;
-        int first;   // row, or where from
-        int second;  // count, or where to
+        int first;   // row, or old row of a move
+        int second;  // count, or new row of a move
         QVector<ItemPtr> items;
         QVector<int> order;
-        State state{};  // the other state: the new one before, the old one after
+        State state{};  // new state before applying, old one afterwards
     };
 
     void perform(Edit&& edit)

@@ -4,15 +4,15 @@
 
 namespace Family {
 
-/// A share of something that counts its users, as `Zorv::StreamCacheData` does: counts itself, and
-/// gives it back.
+/// A smart pointer for data that counts its users, such as `Zorv::StreamCacheData`: adds one user
+/// and removes it at the end.
 template <class Data>
 class AssetRef
 {
 public:
     AssetRef() = default;
 
-    /// Takes over the one share that new data has.
+    /// Takes ownership of the initial reference of new data.
     explicit AssetRef(Data* data) : m_data(data) {}
     AssetRef(const AssetRef& other) : m_data(other.m_data)
     {

@@ -12,7 +12,7 @@ namespace Family {
 
 namespace {
 
-/// Makes the texts of this file known to translators.
+/// Translation context of this file.
 class Text
 {
     Q_DECLARE_TR_FUNCTIONS(Family::AssetReload)
@@ -22,7 +22,7 @@ class Text
 
 bool reloadAssets(Zorv::ProjectFile& file, const AssetHistory& history, const QString& title)
 {
-    // The question for it can come up over the progress of a longer work.
+    // The question to reload can appear on top of the progress dialog of a long operation.
     const bool isHeld = history.isHeld();
     const bool done = !isHeld && file.fromFile(*file.archive(), file.fileName(), false);
     if (!done) {

@@ -12,34 +12,35 @@ class QIODevice;
 
 namespace Family {
 
-/// What a collection holds at one moment, to be written as its file by another thread.
+/// The content of a collection at one moment, for another thread to write as a file.
 ///
-/// The tables are taken at once. Packed bytes may have to be read from temporary files, which is
-/// done bit by bit, and in the main thread, for caches belong to it. Whatever changes in the
-/// collection meanwhile does not show; if that is read again or dies, the snapshot is of no use.
+/// Copies the tables at once. Packed bytes may have to be read from temporary files; that is done
+/// bit by bit in the main thread, which owns the caches. Later changes to the collection do not
+/// affect the snapshot. If the collection is reloaded or destroyed first, the snapshot is
+/// cancelled.
 class AssetSnapshot
 {
 public:
     using BytesOf = std::function<QByteArray(int stream)>;
     using Write = std::function<bool(QIODevice* device, const BytesOf& bytesOf)>;
 
-    /// `bytesOf` is called once for each stream, in order, and then let go of, with all that it
-    /// holds; `write` is called from any thread.
+    /// `bytesOf` is called once per stream, in order, and then released with everything it holds.
+    /// `write` is called from any thread.
     AssetSnapshot(int streams, BytesOf bytesOf, Write write);
 
-    /// Brings together what can be had in so many milliseconds; negative for all. Main thread only.
+    /// Collects bytes for at most so many milliseconds; negative: until complete. Main thread only.
     void gather(int milliseconds);
 
-    /// True when all is there and `write()` may be called.
+    /// True if everything is collected and `write()` may be called.
     bool isWhole() const { return m_bytes.size() == m_count; }
 
-    /// True if it will never be whole.
+    /// True if it will never be complete.
     bool isCanceled() const { return m_isCanceled; }
 
-    /// Writes the whole file. False if bytes were lost, or the device takes not all. Any thread.
+    /// Writes the whole file. False if bytes were lost or the device reports an error. Any thread.
     bool write(QIODevice* device) const;
 
-    /// Of a loose folder: the image of each sprite, empty for one without. Else empty.
+    /// For a loose folder: the image file of each sprite, empty if it has none. Otherwise empty.
     QStringList images;
 
 private:
@@ -52,14 +53,14 @@ private:
     bool m_isCanceled = false;
 };
 
-/// The snapshots that a collection has given out.
+/// The snapshots that a collection has handed out.
 class AssetSnapshots
 {
 public:
     std::shared_ptr<AssetSnapshot> add(int streams, AssetSnapshot::BytesOf bytesOf,
                                        AssetSnapshot::Write write);
 
-    /// Before the store of their bytes goes: what is not whole never will be.
+    /// Call before the store of their bytes is destroyed: cancels all incomplete ones.
     void cancel();
 
 private:

@@ -9,20 +9,20 @@ namespace Family {
 
 class SoundFile;
 
-/// One sound of a collection. Every change is a step of undo.
+/// One sound of a collection. Every change is an undo step.
 ///
-/// Its address stays the same as long as the collection or its undo knows it.
+/// Its address is stable as long as the collection or its undo history knows it.
 class FamilySound final : public Zorv::Sound
 {
 public:
-    /// All that can change in a sound.
+    /// Everything in a sound that can change.
     struct State
     {
         AssetId id;
         Zorv::SampleInfo info;
-        SampleRef samples;  ///< null for a sound without samples
-        QByteArray record;  ///< as the file has it, if it is broken there
-        QString fault;      ///< then: why, in words
+        SampleRef samples;  ///< null if it has none
+        QByteArray record;  ///< original bytes, if broken in the file
+        QString fault;      ///< if broken: the reason, for display
     };
 
     explicit FamilySound(SoundFile* sounds);
@@ -30,10 +30,10 @@ public:
 
     AssetId id() const { return state.id; }
 
-    /// Why the sound is broken, in words; empty if it is not.
+    /// Why the sound is broken, as a text; empty if it is not.
     QString fault() const { return state.fault; }
 
-    /// How the samples are stored, and in how many bytes.
+    /// How the samples are stored, and their size in bytes.
     SamplePacking packing() const;
     int packedSize() const;
 
@@ -41,20 +41,20 @@ public:
     std::function<QByteArray()> sampleReader() const override;
     Zorv::SampleInfo sampleInfo() const override { return state.info; }
 
-    /// Nothing for a form that a sound file cannot hold; see `SoundFile::add()`. A broken sound is
-    /// whole again by it.
+    /// Does nothing for a format that a sound file cannot hold, see `SoundFile::add()`. Repairs a
+    /// broken sound.
     void setSample(const Zorv::SampleInfo& info, const QByteArray& data) override;
 
-    /// Appends a copy with the next free number of the group.
+    /// Appends a copy with the next free number in the group.
     void duplicate() override;
 
-    /// "Identifier", "Group", "Number", "Channels", "Bits", "Rate", "Frames". The first three can
-    /// be set.
+    /// "Identifier", "Group", "Number", "Channels", "Bits", "Rate", "Frames". Only the first three
+    /// can be set.
     QStringList propertyNames() const override;
     QVariant property(const QString& name) const override;
     void setProperty(const QString& name, const QVariant& value) override;
 
-    State state;   ///< changed by the collection alone
+    State state;   ///< changed only by the collection
     int row = -1;  ///< in the list; -1 outside of it
 
 private:

@@ -18,7 +18,7 @@ namespace {
 
 constexpr int ColorCount = 256;
 
-// Colours and indices change places, so that the picture stays.
+// Reverses colours and indices, so that the picture looks the same.
 QImage reversedOrder(QImage image)
 {
     QVector<QRgb> table = tableOfColors(colorsOfTable(image.colorTable()));
@@ -141,7 +141,7 @@ void FamilySprite::setPrepared(const Zorv::PreparedImage& prepared)
     }
 }
 
-/// `stored` has the pixels of the image; null if it cannot be a sprite.
+/// `stored` holds the pixels of the image; null if they do not fit into a sprite.
 void FamilySprite::setPixels(const QImage& image, const PixelRef& stored)
 {
     if (image.format() != QImage::Format_Indexed8) {
@@ -193,7 +193,7 @@ std::shared_ptr<FamilyPalette> FamilySprite::chosenPalette(const Zorv::Palette* 
     return chosen ? chosen : state.palette;
 }
 
-/// `stored` has the pixels of the image; null if it cannot be a sprite.
+/// `stored` holds the pixels of the image; null if they do not fit into a sprite.
 void FamilySprite::setAdapted(const QImage& pixels, const PixelRef& stored, int mode,
                               std::shared_ptr<FamilyPalette> chosen)
 {

@@ -22,7 +22,7 @@ QByteArray readAll(Zorv::Archive& archive, const QString& fileName, QString* err
     return bytes;
 }
 
-// "20_3", "20-3" and "20,3" name a sprite.
+// File names such as "20_3", "20-3" and "20,3" give the identifier.
 bool idOfName(const QString& file, AssetId* id)
 {
     static const QRegularExpression form(QStringLiteral("^(\\d+)[_,-](\\d+)$"));
@@ -31,7 +31,7 @@ bool idOfName(const QString& file, AssetId* id)
            AssetId::read(match.captured(1) + QLatin1Char(',') + match.captured(2), id);
 }
 
-/// Reads image after image.
+/// Reads the images one by one.
 class FolderReader
 {
 public:

@@ -10,12 +10,12 @@ class Archive;
 
 namespace Family {
 
-/// What a loose folder of images holds, read whole but for the pixels.
+/// The content of a loose folder of images, completely read except for the pixels.
 struct FolderContent
 {
     struct Image
     {
-        QString file;  ///< empty for a sprite without pixels
+        QString file;  ///< empty if the sprite has no pixels
         AssetId id;
         QPoint axis;
         PixelFormat format;
@@ -25,14 +25,14 @@ struct FolderContent
     };
 
     QVector<Image> images;            ///< in the order of the sprites
-    FolderList list;                  ///< as it is read
-    QVector<FolderList::Image> lost;  ///< lines of the list whose image is not there or broken
-    QStringList problems;             ///< a line each for the person
+    FolderList list;                  ///< as read
+    QVector<FolderList::Image> lost;  ///< entries whose image is missing or broken
+    QStringList problems;             ///< one line each, for the user
 
     static FolderContent read(Zorv::Archive& archive, const QString& folder);
 };
 
-/// The codec of an image file by its suffix; `None` for any other.
+/// The codec of an image file according to its suffix; `None` for any other.
 PixelCodec codecOfFile(const QString& file);
 
 }  // namespace Family

@@ -15,7 +15,7 @@ QString pointText(QPoint point)
     return QStringLiteral("%1,%2").arg(QString::number(point.x()), QString::number(point.y()));
 }
 
-/// One line that is no comment; false if it makes no sense.
+/// Reads a line that is not a comment; false if it is malformed.
 bool readLine(const QString& line, FolderList* list)
 {
     static const QRegularExpression form(

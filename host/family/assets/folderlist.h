@@ -8,7 +8,8 @@
 
 namespace Family {
 
-/// The list "sprites.txt" of a loose folder: what its images cannot hold (see docs/formats.md).
+/// The list "sprites.txt" of a loose folder: everything that its images cannot store (see
+/// docs/formats.md).
 struct FolderList
 {
     struct Image
@@ -20,21 +21,22 @@ struct FolderList
     struct Palette
     {
         AssetId id;
-        QString file;  ///< an image that has it
+        QString file;  ///< one image that contains it
     };
 
     QVector<Image> images;
     QVector<Palette> palettes;
     QVector<QPair<AssetId, AssetId>> remaps;
-    QStringList unknown;  ///< lines that make no sense; they stay
+    QStringList unknown;  ///< malformed lines; they are kept
 
-    /// Reads the text of a list. Lines that make no sense are told in `problems`.
+    /// Parses a list. Malformed lines are reported in `problems`.
     static FolderList read(const QString& text, QStringList* problems);
 
-    /// The text, with a line feed at each line end.
+    /// The text; every line ends in a line feed.
     QString text() const;
 
-    /// Its name, and what stands in the place of a file for a sprite without pixels.
+    /// The name of the list file, and the entry that replaces the file name for a sprite without
+    /// pixels.
     static QString fileName();
     static QString noFile();
 };

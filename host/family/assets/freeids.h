@@ -8,19 +8,19 @@
 
 namespace Family {
 
-/// Gives out identifiers that nobody has, each once: the next one from an identifier on. The group
-/// is left if it is full.
+/// Hands out unused identifiers, each once: the next free one at or after a given identifier.
+/// Continues in the next group if the group is full.
 ///
-/// Whoever asks in the order of identifiers pays for each of those that are taken once.
+/// If requests come in ascending order, each used identifier is examined only once.
 class FreeIds
 {
 public:
     explicit FreeIds(std::function<bool(AssetId)> isTaken) : m_isTaken(std::move(isTaken)) {}
 
-    /// True if somebody has it, or will.
+    /// True if it is used or already handed out.
     bool isTaken(AssetId id) const { return m_given.contains(id.key()) || m_isTaken(id); }
 
-    /// Keeps one for somebody who has to have it.
+    /// Reserves an identifier.
     void keep(AssetId id) { m_given.insert(id.key()); }
 
     AssetId next(AssetId from);
@@ -28,8 +28,8 @@ public:
 private:
     std::function<bool(AssetId)> m_isTaken;
     QSet<quint32> m_given;
-    AssetId m_asked;   // the last question,
-    AssetId m_answer;  // and what was free: nothing is between the two
+    AssetId m_asked;   // the last request,
+    AssetId m_answer;  // and its answer: everything between is used
     bool m_hasAnswer = false;
 };
 

@@ -10,21 +10,22 @@
 #include <QHash>
 #include <algorithm>
 
-// First all streams that are meant are collected, each once for every map that it gets. They are
-// unpacked, mapped and packed by batches, while what the batch before has made is compared with
-// what is there. Sprites change at the end, all in one step.
+// First all affected streams are collected, each once per map. Then they are unpacked, mapped and
+// packed in batches on several threads; meanwhile the calling thread compares the results of the
+// previous batch with existing pixels. Sprites change only at the end, in one step.
 
 namespace Family {
 
 namespace {
 
-/// Makes the texts of this file known to translators.
+/// Translation context of this file.
 class Text
 {
     Q_DECLARE_TR_FUNCTIONS(Family::IndexMapping)
 };
 
-// The calling thread is heard of between two batches, so they are small; but no thread is idle.
+// The caller is called back between two batches, so they are small, but large enough to keep all
+// threads busy.
 constexpr int MostStreams = 256;
 constexpr qint64 MostBytes = 8 << 20;
 
@@ -78,7 +79,7 @@ private:
     const MappingJob& m_job;
     QVector<Stream> m_streams;
     QHash<std::pair<const PixelData*, const IndexMap*>, int> m_places;
-    QVector<std::pair<SpriteCollection::ItemPtr, int>> m_meant;  // a sprite and its stream
+    QVector<std::pair<SpriteCollection::ItemPtr, int>> m_meant;  // sprite and index of its stream
     QVector<SpriteCollection::ItemPtr> m_broken;
     int m_prepared = 0;
     int m_done = 0;
@@ -141,7 +142,7 @@ bool Mapping::run(QVector<int>* broken)
     collect();
     QVector<Work> working;
     QVector<Work> done;
-    WorkPool pool(m_job.threads);  // ends before what it works on, when it is given up
+    WorkPool pool(m_job.threads);  // destroyed before what it works on, also when cancelled
     const auto start = [&] {
         working = nextBatch(pool.threads());
         Work* const first = working.data();

@@ -10,10 +10,11 @@ namespace Family {
 
 class SpriteCollection;
 
-/// For each index that a pixel can have another one.
+/// Maps each colour index of a pixel to another one.
 using IndexMap = std::array<quint8, 256>;
 
-/// The nearest of other colours for each of these; the same index if it has the same colour there.
+/// For each colour in `from` the nearest colour in `to`; the same index if the colours at it are
+/// equal.
 IndexMap nearestIndices(const PaletteColors& from, const PaletteColors& to);
 
 /// Sprites whose pixels get other indices.
@@ -23,25 +24,25 @@ struct IndexMapping
     IndexMap map;
 };
 
-/// What to do with the pixels of a collection, on several threads.
+/// A conversion of pixels in a collection, on several threads.
 struct MappingJob
 {
-    QVector<IndexMapping> mappings;  ///< a sprite is in one of them at most
+    QVector<IndexMapping> mappings;  ///< a sprite may be in at most one of them
 
-    /// Called on the calling thread now and then with the number of streams that are done, and how
-    /// many there are; false gives up. May be empty.
+    /// Called in the calling thread from time to time, with the number of processed streams and
+    /// their total; false cancels. May be empty.
     std::function<bool(int done, int count)> progress;
 
-    int threads = 0;  ///< how many; 0 for as many as there are cores
+    int threads = 0;  ///< 0: one per core
 };
 
-/// Gives pixels other indices, as one step of undo. Pixels that sprites share are unpacked once,
-/// and packed again in their own codec, or in the smallest one if that cannot hold them; memory is
-/// that of a few sprites. Colours are left alone, and so are true colour and what is broken: the
-/// rows of broken sprites go into `broken`.
+/// Replaces the indices of pixels, as one undo step. Shared pixels are unpacked only once. They are
+/// packed again in their own codec, or in the smallest suitable one if that cannot hold them. Needs
+/// memory for a few sprites only. Colours, true-colour pixels and broken pixels stay unchanged; the
+/// rows of broken sprites are put into `broken`.
 ///
-/// False if it was given up; nothing is changed then. The calling thread is that of the
-/// collection, and waits.
+/// False if it was cancelled; then nothing is changed. Call it in the thread of the collection; it
+/// blocks.
 bool mapIndices(SpriteCollection* sprites, const MappingJob& job, QVector<int>* broken);
 
 }  // namespace Family

@@ -6,12 +6,12 @@ namespace Family {
 
 class SpriteCollection;
 
-/// An empty collection, the caller's, of the kind that a path asks for: a `SpriteFolder` for a
-/// folder that is there or a path that ends in "/", else a `SpriteFile`.
+/// A new empty collection of the kind that fits the path: a `SpriteFolder` for an existing folder
+/// or a path that ends in "/", otherwise a `SpriteFile`. The caller owns it.
 SpriteCollection* newSprites(const QString& path);
 
-/// One with the content of a path. Null with `error` if it cannot be read; broken records are in
-/// its `loadErrors()`.
+/// A new collection with the content of a path. Null, with `error`, if it cannot be read; broken
+/// records are listed in its `loadErrors()`.
 SpriteCollection* openSprites(const QString& path, QString* error);
 
 }  // namespace Family

@@ -18,7 +18,7 @@ bool PackedCopy::read()
         return true;
     }
     m_rows = m_packed.rows();
-    // An image of a loose folder may have a form that sprite files do not know.
+    // An image in a loose folder may have a format that sprite files do not support.
     if (m_packed.streamCrc == 0 && !m_rows.isEmpty()) {
         m_packed = PackedPixels::pack(m_packed.format, m_rows);
     }

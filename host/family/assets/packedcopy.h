@@ -8,8 +8,8 @@ namespace Family {
 
 class FamilySprite;
 
-/// The packed pixels of a sprite on their way into another collection. Equal ones are stored once
-/// there; an image of a loose folder becomes pixels as sprite files have them.
+/// The packed pixels of a sprite for transfer to another collection. That collection stores equal
+/// pixels once. An image of a loose folder is converted to a format of sprite files.
 class PackedCopy final : public Zorv::PixelCopy
 {
 public:
@@ -17,7 +17,7 @@ public:
 
     bool read() override;
 
-    /// False also for a sprite that is not of the family.
+    /// False also if the sprite is not a `FamilySprite`.
     bool putInto(Zorv::Sprite* sprite) override;
 
 private:

@@ -14,7 +14,7 @@ namespace Family {
 
 namespace {
 
-/// The colours as they are compared: entry 0 is what shines through, whatever its alpha.
+/// The colours for comparison: entry 0 is transparent whatever its alpha.
 PaletteColors compared(PaletteColors colors)
 {
     colors[0].a = 255;
@@ -140,7 +140,7 @@ void PaletteList::removeDuplicates()
     drop(rows);
 }
 
-// Gives all sprites that use one of the palettes the one that it leads to.
+// Moves the sprites from each palette to the one that it maps to.
 void PaletteList::usePalettes(const QHash<const FamilyPalette*, ItemPtr>& others)
 {
     for (const auto& sprite : m_sprites->items()) {

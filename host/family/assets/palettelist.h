@@ -13,8 +13,8 @@ class SpriteCollection;
 
 using PaletteListBase = AssetList<Zorv::Palettes, FamilyPalette>;
 
-/// The palettes of a sprite collection. A row shows "GROUP,NUMBER". Every change is a step of undo
-/// in that of the collection.
+/// The palettes of a sprite collection. A row shows "GROUP,NUMBER". Every change is an undo step in
+/// the history of the collection.
 class PaletteList final : public PaletteListBase
 {
     Q_OBJECT
@@ -35,16 +35,16 @@ public:
     FamilyPalette* addPalette(const Zorv::RGBA (&colors)[256], const QVariant& id,
                               bool askId) override;
 
-    /// Sprites that use a palette that is removed have none afterwards, and show shades of grey.
+    /// Sprites that use a removed palette have none afterwards and show shades of grey.
     void remove(int row) override;
     void clear() override;
     int find(int from, const QVariant& id) const override;
 
-    /// Removes what no sprite uses and no remap names.
+    /// Removes palettes that no sprite uses and no remap names.
     void removeUnused() override;
 
-    /// Removes palettes that repeat all 256 colours of an earlier one, unless a remap stands
-    /// in for them. Sprites, and remaps that lead to them, take the earlier one.
+    /// Removes palettes with the same 256 colours as an earlier one, except those with a remap.
+    /// Sprites and remaps then use the earlier one.
     void removeDuplicates() override;
 
     void beginUpdate(const QString& title) override;
@@ -58,18 +58,20 @@ public:
     /// The first palette with that identifier; null if there is none.
     FamilyPalette* byId(AssetId id) const;
 
-    /// The first palette with exactly these colours; else the first that differs in nothing but the
-    /// alpha of entry 0, which programs tell differently of the same palette. Null without one.
+    /// The first palette with exactly these colours; otherwise the first that differs only in the
+    /// alpha of entry 0, which programs set differently for the same palette. Null if there is
+    /// none.
     FamilyPalette* byColors(const PaletteColors& colors) const;
 
-    /// What a palette is shown as: the one that a remap names, else itself. One step only.
+    /// The palette that is shown instead: the target of its remap, or itself. Follows one remap
+    /// only.
     const FamilyPalette* shown(const FamilyPalette* palette) const;
 
     /// Adds a palette with a free identifier, unless `byColors()` finds one.
     FamilyPalette* ensure(const PaletteColors& colors);
 
-    /// For each palette of another collection the first one here with its colours, else a copy
-    /// under its number, or the next one that is free. `added` counts the copies. One step of undo.
+    /// For each palette of another collection: the first one here with its colours, or else a copy
+    /// with its number or the next free one. `added` receives the number of copies. One undo step.
     QVector<ItemPtr> adopt(const QVector<const FamilyPalette*>& others, int* added);
 
     /// Sorts by group and number.
@@ -77,24 +79,24 @@ public:
 
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
 
-    /// For palettes: change one, with undo; see `FamilyPalette`.
+    /// For palettes: change one with undo; see `FamilyPalette`.
     void setColors(FamilyPalette* palette, const PaletteColors& colors, int mode);
     void setId(FamilyPalette* palette, AssetId id);
 
-    /// For the collection, while no sprite is there: other palettes, with undo.
+    /// For the collection, while it has no sprite: replaces the palettes with undo.
     void replace(const QVector<ItemPtr>& items);
 
-    /// For the collection: replaces everything, without undo; removes broken records; tells of a
+    /// For the collection: replace everything without undo; remove broken records; report a
     /// finished step.
     void reset(const QVector<ItemPtr>& items);
     void removeBroken();
     void flush();
 
-    /// Another number after every change of what `shown()` gives, or of its colours.
+    /// Changes whenever the result of `shown()` or its colours may have changed.
     quint64 shownRevision() const { return m_shownRevision; }
 
-    /// The share that the list or its undo has in a palette; for sprites to hold. Null for a
-    /// stranger.
+    /// The shared pointer of the list, or its undo history, to a palette; for sprites to keep. Null
+    /// for a palette of another collection.
     ItemPtr share(const Zorv::Palette* palette) const;
 
 private:
@@ -115,8 +117,8 @@ private:
     bool m_changed = false;
     bool m_countChanged = false;
     quint64 m_shownRevision = 0;
-    QHash<quint32, int> m_ids;        // how many palettes have each
-    QHash<quint64, int> m_colorSets;  // likewise of each checksum of colours, see `byColors()`
+    QHash<quint32, int> m_ids;        // the number of palettes with each identifier
+    QHash<quint64, int> m_colorSets;  // likewise by checksum of colours, see `byColors()`
 };
 
 }  // namespace Family

@@ -21,7 +21,7 @@ const struct
 {
     PixelCodec codec;
     const char* name;
-    int mostPixels;  // that one byte of a stream can stand for
+    int mostPixels;  // that one byte of a stream can encode
 } codecs[] = {
     {PixelCodec::Lz5, "LZ5", 264}, {PixelCodec::Rle8, "RLE8", 63}, {PixelCodec::Png, "PNG", 8256},
     {PixelCodec::Pcx, "PCX", 63},  {PixelCodec::Gif, "GIF", 4096},
@@ -40,7 +40,7 @@ bool canHold(const PixelFormat& format, qint64 streamSize)
            qint64(size.width()) * size.height() <= streamSize * codec->mostPixels;
 }
 
-// A PNG declares its size in its first chunk, 32 bits each.
+// A PNG stores its size in its first chunk, 32 bits each.
 QSize declaredPngSize(const QByteArray& file)
 {
     constexpr int WidthAt = 16;
@@ -68,7 +68,7 @@ bool isOpaque(const QImage& image)
     return true;
 }
 
-// Rows as an image that shares their bytes.
+// An image that shares the bytes of the rows.
 QImage sharedImage(const PixelFormat& format, const QByteArray& rows, QImage::Format imageFormat)
 {
     return {reinterpret_cast<const uchar*>(rows.constData()), format.size.width(),
@@ -95,7 +95,7 @@ bool packInto(const PixelFormat& format, const QByteArray& rows, QBuffer* buffer
     case PixelCodec::Pcx:
         return Zorv::savePCX(image, buffer);
     case PixelCodec::Png:
-        // As shades of grey the indices need no colour table.
+        // Saved as shades of grey, the indices need no colour table.
         return Zorv::savePNG(sharedImage(format, rows, QImage::Format_Grayscale8), buffer);
     default:
         return false;
@@ -164,7 +164,7 @@ QByteArray unpackPixels(const PixelFormat& format, const QByteArray& stream)
     buffer.open(QIODevice::ReadOnly);
     QByteArray rows(int(format.byteCount()), Qt::Uninitialized);
     if (format.codec == PixelCodec::Rle8) {
-        rows.fill(0);  // a stream that is too short leaves the last pixels alone
+        rows.fill(0);  // a stream that is too short leaves the last pixels at 0
     }
     QImage image(reinterpret_cast<uchar*>(rows.data()), format.size.width(), format.size.height(),
                  format.size.width(), QImage::Format_Indexed8);
@@ -182,7 +182,7 @@ QByteArray packPixels(const PixelFormat& format, const QByteArray& rows)
 PixelCodec smallestCodec(const PixelFormat& format, const QByteArray& rows, QByteArray* stream)
 {
     PixelCodec best = PixelCodec::None;
-    // PCX is RLE8 with a head and a colour table, so it is never the smallest.
+    // PCX is RLE8 plus a header and a colour table, so it is never the smallest.
     for (const PixelCodec codec : {PixelCodec::Lz5, PixelCodec::Rle8, PixelCodec::Png}) {
         const QByteArray packed = packPixels({format.size, format.bits, codec}, rows);
         if (!packed.isEmpty() && (best == PixelCodec::None || packed.size() < stream->size())) {

@@ -9,8 +9,8 @@ namespace Family {
 
 class PixelStore;
 
-/// Packed pixels in a cache, shared by all sprites that show them. Made by a `PixelStore`, and
-/// kept by `PixelRef`.
+/// Packed pixels in a cache, shared by all sprites that show them. Created by `PixelStore`, kept by
+/// `PixelRef`.
 class PixelData final : public Zorv::StreamCacheData
 {
 public:
@@ -19,11 +19,11 @@ public:
     ~PixelData() override;
 
     PixelFormat format;
-    quint64 pixelCrc = 0;   ///< of the unpacked rows, as a file tells it
+    quint64 pixelCrc = 0;   ///< of the unpacked rows, according to the file
     quint64 streamCrc = 0;  ///< of the packed bytes; 0 if it was not read from a file
-    QByteArray record;     ///< that of the file, if it is broken; the pixels are then not to be had
-    bool isGuess = false;  ///< where the bytes of a broken record lie was guessed
-    quint32 order = 0;     ///< where its stream stands in the file among others
+    QByteArray record;      ///< original bytes, if broken in the file; then there are no pixels
+    bool isGuess = false;   ///< the position of a broken record's bytes was guessed
+    quint32 order = 0;      ///< position of its stream among those of the file
 
 protected:
     void disposeData() override;

@@ -23,15 +23,16 @@ quint64 checksum(const QByteArray& bytes)
                        unsigned(bytes.size()));
 }
 
-// What stands behind the rows in decoded bytes.
+// The bytes that follow the rows in decoded form.
 quint64 tail(const PixelFormat& format)
 {
     return quint64(format.size.width()) | quint64(format.size.height()) << 16 |
            quint64(format.bits) << 32;
 }
 
-// The checksum of decoded bytes, from that of the rows alone. The first eight bytes of a text meet
-// the register as they are, so a register can be handed on as eight bytes.
+// The CRC of decoded bytes (rows, then tail), computed from that of the rows alone. A CRC XORs its
+// first eight bytes into the start register, which is all ones. So eight suitable bytes bring it
+// into the state after the rows, XORed with the tail.
 quint64 decodedChecksum(quint64 pixelCrc, const PixelFormat& format)
 {
     if (pixelCrc == 0) {
@@ -90,7 +91,8 @@ PixelRef PixelStore::adopt(const PixelFormat& format, const QByteArray& stream, 
     data->streamCrc = streamCrc;
     data->order = m_nextOrder++;
     if (!stream.isEmpty()) {
-        // Type 0 would have the cache pack them: those of a broken record stay as they are.
+        // With type 0 the cache would pack the bytes, but those of a broken record must stay
+        // unchanged.
         const uchar type = format.codec == PixelCodec::None ? UnknownItem : uchar(format.codec);
         data->fromData(stream, type, data, decodedChecksum(pixelCrc, format));
     }
@@ -134,7 +136,7 @@ PixelRef PixelStore::add(const PackedImage& image)
     return image.rows().isEmpty() ? PixelRef() : add(image.packed(), image.rows());
 }
 
-/// Equal streams need not be unpacked to be compared.
+/// Equal streams need not be unpacked for comparison.
 PixelRef PixelStore::known(const PackedPixels& packed, const QByteArray& rows) const
 {
     const QByteArray decoded = decodedBytes(packed.format, rows);

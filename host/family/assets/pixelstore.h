@@ -22,58 +22,58 @@ class SpriteTextures;
 class PackedImage;
 struct PackedPixels;
 
-/// The pixels of a collection: their caches, the filters that pack and unpack them, and what was
-/// unpacked of late.
+/// The pixels of a collection: their caches, the filters that pack and unpack them, and recently
+/// unpacked pixels.
 ///
-/// Bytes of a cache are a stream in the codec that is the item's type. Decoded they are the rows
-/// without padding and, behind them, width, height, bits and 0, 16 bits each, little-endian; so
-/// equal bytes are equal pictures. All `PixelRef` must go before the store. Main thread only.
+/// A cache item is a stream; its type is the codec. Decoded, it consists of the rows without
+/// padding, then width, height, bits and 0, 16 bits each, little-endian. So equal bytes mean equal
+/// pictures. All `PixelRef` must be destroyed before the store. Main thread only.
 class PixelStore : public QObject
 {
     Q_OBJECT
 
 public:
-    /// A store that the setting "cache_type" chooses.
+    /// The setting "cache_type" chooses the kind of cache.
     PixelStore();
     ~PixelStore() override;
 
     Zorv::StreamCache* cache() const { return m_cache.get(); }
 
-    /// Takes up a stream as it is, without unpacking it; the checksums are those of its file, 0 if
-    /// they are not known.
+    /// Stores a stream unchanged, without unpacking it. The checksums come from its file; 0 if
+    /// unknown.
     PixelRef adopt(const PixelFormat& format, const QByteArray& stream, quint64 pixelCrc,
                    quint64 streamCrc);
 
-    /// Takes up an image file of a loose folder. The form has to be known.
+    /// Refers to an image file of a loose folder. Its format must be known.
     PixelRef adoptFile(const PixelFormat& format, const QString& fileName, quint64 pixelCrc);
 
-    /// Stores new pixels in the smallest codec that loses nothing; pixels that are there
-    /// already are only counted once more. `image` is `Format_Indexed8` or `Format_ARGB32`. Null
-    /// for an image without pixels or larger than a sprite can be.
+    /// Stores new pixels in the smallest lossless codec; existing equal pixels are only referenced
+    /// once more. `image` is `Format_Indexed8` or `Format_ARGB32`. Null for an image without pixels
+    /// or too large for a sprite.
     PixelRef add(const QImage& image);
 
-    /// The same for pixels that are packed already, `rows` being what they unpack to. Without a
-    /// stream they are packed here.
+    /// The same for pixels that are already packed; `rows` is their unpacked form. If the stream is
+    /// empty, they are packed here.
     PixelRef add(const PackedPixels& packed, const QByteArray& rows);
     PixelRef add(const PackedImage& image);
 
-    /// The same pixels in another codec; null if it would lose something.
+    /// The same pixels in another codec; null if that would lose data.
     PixelRef recoded(PixelData* data, PixelCodec codec);
 
-    /// The packed bytes, as they go to a file.
+    /// The packed bytes, as written to a file.
     QByteArray stream(const PixelData* data) const;
 
-    /// The unpacked rows, from what was unpacked of late; empty if the stream is broken.
+    /// The unpacked rows, from a cache of recent ones if possible; empty if the stream is broken.
     QByteArray rows(const PixelData* data);
 
-    /// Forgets what was unpacked.
+    /// Drops the unpacked pixels.
     void forget(const PixelData* data);
 
-    /// What the stage draws the pixels with.
+    /// The textures with which the stage draws the pixels.
     SpriteTextures* textures() { return m_textures.get(); }
 
-    /// Brings the bytes of a file of a loose folder into the cache, if pixels are in it; for before
-    /// it is written over or removed.
+    /// Moves the bytes of a file in a loose folder into the cache if pixels refer to it. Call
+    /// before it is overwritten or deleted.
     void takeIn(const QString& fileName);
 
 private:
@@ -90,17 +90,17 @@ private:
     quint32 m_nextOrder = 0;
 };
 
-/// Packed pixels by themselves, to be unpacked and packed on any thread.
+/// Packed pixels outside of a store, to be unpacked and packed on any thread.
 struct PackedPixels
 {
     PackedPixels() = default;
     explicit PackedPixels(const PixelData& data);
 
-    /// Packs rows in the codec of the format, or in the smallest one if that one cannot hold them
-    /// or is none.
+    /// Packs rows in the codec of `format`, or in the smallest one if that is `None` or cannot hold
+    /// them.
     static PackedPixels pack(PixelFormat format, const QByteArray& rows);
 
-    /// The unpacked rows; empty if there are none, or a checksum is wrong.
+    /// The unpacked rows; empty if there are none or a checksum is wrong.
     QByteArray rows() const;
 
     PixelFormat format;
@@ -109,11 +109,11 @@ struct PackedPixels
     quint64 pixelCrc = 0;
 };
 
-/// Which pixels were packed, so that equal ones are not packed again. Any thread.
+/// Remembers which pixels were packed, so that equal ones are not packed again. Thread-safe.
 class PackedOnce
 {
 public:
-    /// True for the first with this checksum.
+    /// True for the first call with this checksum.
     bool isFirst(quint64 crc);
 
 private:
@@ -121,15 +121,15 @@ private:
     QSet<quint64> m_seen;
 };
 
-/// An image in the form of a sprite whose pixels are packed already, on any thread.
+/// An image in the format of a sprite, with its pixels already packed, on any thread.
 class PackedImage final : public Zorv::PreparedImage
 {
 public:
-    /// In that codec, or in the smallest one if that one cannot hold them or is none.
+    /// Uses this codec, or the smallest one if it is `None` or cannot hold the pixels.
     PackedImage(const QImage& image, PackedOnce* once, PixelCodec codec = PixelCodec::None);
 
-    /// Nothing in both for an image without pixels, or larger than a sprite can be. Without a
-    /// stream equal ones were packed, most likely.
+    /// Both are empty for an image without pixels or too large for a sprite. If only the stream is
+    /// empty, equal pixels were most likely packed before.
     const QByteArray& rows() const { return m_rows; }
     const PackedPixels& packed() const { return m_packed; }
 

@@ -69,7 +69,7 @@ PixelRef PixelTransfer::bring(const PixelData* pixels)
     if (!result && pixels->streamCrc != 0) {
         result = m_target->store()->adopt(pixels->format, stream, crc, pixels->streamCrc);
     } else if (!result) {
-        // An image of a loose folder may have a form that sprite files do not know.
+        // An image in a loose folder may have a format that sprite files do not support.
         const QByteArray rows = PackedPixels(*pixels).rows();
         result = rows.isEmpty() ? PixelRef()
                                 : m_target->store()->add(imageOfRows(pixels->format, rows, {}));

@@ -8,17 +8,17 @@ namespace Family {
 
 class SpriteCollection;
 
-/// Brings pixels of one collection into another, which stores equal ones once.
+/// Copies pixels of one collection into another, which stores equal ones once.
 ///
-/// Packed pixels go over as they are. They are compared by the checksum that their file tells, and
-/// unpacked only if that is the same and the packed bytes are not. Neither collection may be read
-/// again, or die, as long as one lives.
+/// Packed pixels are copied unchanged. They are compared by the checksum from their file, and
+/// unpacked only if the checksums are equal but the packed bytes differ. Neither collection may be
+/// reloaded or destroyed while a transfer exists.
 class PixelTransfer
 {
 public:
     PixelTransfer(const SpriteCollection* source, const SpriteCollection* target);
 
-    /// The pixels in the target that are those of a sprite of the source. Null for broken ones.
+    /// The pixels in the target that correspond to pixels of the source. Null for broken ones.
     PixelRef take(const PixelData* pixels);
 
 private:
@@ -27,7 +27,7 @@ private:
 
     const SpriteCollection* m_source;
     const SpriteCollection* m_target;
-    QMultiHash<quint64, PixelRef> m_present;    // of the target, by their checksum
+    QMultiHash<quint64, PixelRef> m_present;    // in the target, by checksum
     QHash<const PixelData*, PixelRef> m_taken;  // null for broken ones
 };
 

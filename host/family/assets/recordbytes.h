@@ -7,8 +7,8 @@
 
 namespace Family {
 
-/// Reads the little-endian values of a record one behind the other. The caller has seen to it that
-/// the bytes are there.
+/// Reads the little-endian values of a record in sequence. The caller guarantees that there are
+/// enough bytes.
 class RecordReader
 {
 public:
@@ -38,7 +38,7 @@ private:
     const char* m_at;
 };
 
-/// Fills a record of a fixed size, which is 0 where nothing is written.
+/// Fills a record of fixed size; bytes that are not written are 0.
 class RecordWriter
 {
 public:
@@ -60,7 +60,7 @@ public:
         u16(id.number);
     }
 
-    /// The record, with the checksum in its last 8 bytes.
+    /// The record with its checksum in the last 8 bytes.
     QByteArray sealed() const;
 
 private:
@@ -75,7 +75,7 @@ private:
     int m_at = 0;
 };
 
-/// True if the last 8 bytes of a record are the checksum of those in front of them.
+/// True if the last 8 bytes of a record are the checksum of the bytes before them.
 bool isSealed(const char* record, int size);
 
 /// A record with that checksum.

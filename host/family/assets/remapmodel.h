@@ -7,14 +7,14 @@
 
 namespace Family {
 
-/// A row of the remap table: a palette, and the one that stands in for it.
+/// A row of the remap table: a palette and its substitute.
 struct RemapItem
 {
     struct State
     {
         AssetId from;
         AssetId to;
-        QByteArray record;  ///< as the file has it, if it is broken there
+        QByteArray record;  ///< original bytes, if broken in the file
     };
     State state;
     int row = -1;
@@ -22,11 +22,11 @@ struct RemapItem
 
 using RemapModelBase = AssetList<QAbstractTableModel, RemapItem>;
 
-/// The remap table of a collection: what sprites with one palette are shown with instead.
+/// The remap table of a collection: which palettes are shown instead of others.
 ///
-/// Columns "From" and "To" hold identifiers of palettes; of several rows for one palette the first
-/// counts, and a row that leads to no palette does nothing. Views insert and remove rows and edit
-/// cells; each is a step of undo in that of the collection.
+/// The columns "From" and "To" hold palette identifiers. If several rows have the same "From", the
+/// first counts; a row whose "To" does not exist has no effect. Views insert and remove rows and
+/// edit cells; each edit is an undo step in the history of the collection.
 class RemapModel final : public RemapModelBase
 {
     Q_OBJECT
@@ -37,17 +37,17 @@ public:
     /// `changed` is called after each change.
     RemapModel(AssetHistory* history, std::function<void()> changed);
 
-    /// Where sprites of a palette lead; `from` itself if no row names it.
+    /// The palette shown for `from`; `from` itself if no row names it.
     AssetId target(AssetId from) const;
 
-    /// True if a row names that palette, on either side or on that of `From`.
+    /// True if a row has that palette in either column, or in the column "From".
     bool names(AssetId id) const;
     bool remaps(AssetId from) const;
 
     /// Appends a row.
     void add(AssetId from, AssetId to);
 
-    /// Every row that leads to one palette leads to another.
+    /// All rows that lead to one palette lead to another afterwards.
     void redirect(AssetId oldTarget, AssetId newTarget);
 
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -59,11 +59,11 @@ public:
     /// Takes "GROUP,NUMBER".
     bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
 
-    /// New rows lead from "1,1" to itself, until they are edited.
+    /// New rows map "1,1" to itself until they are edited.
     bool insertRows(int row, int count, const QModelIndex& parent = {}) override;
     bool removeRows(int row, int count, const QModelIndex& parent = {}) override;
 
-    /// For the collection: removes broken records; replaces everything, with undo and without.
+    /// For the collection: removes broken records; replaces everything, with undo or without.
     void removeBroken();
     void replace(const QVector<ItemPtr>& items);
     void reset(const QVector<ItemPtr>& items);

@@ -11,8 +11,8 @@ class SampleStore;
 /// How samples are packed in a sound file.
 enum class SamplePacking : quint8 { Plain = 0, Deflated = 1 };
 
-/// Packed samples in a cache, shared by all sounds that play them. Made by a `SampleStore`, and
-/// kept by `SampleRef`.
+/// Packed samples in a cache, shared by all sounds that play them. Created by `SampleStore`, kept
+/// by `SampleRef`.
 class SampleData final : public Zorv::StreamCacheData
 {
 public:
@@ -20,8 +20,8 @@ public:
     ~SampleData() override;
 
     SamplePacking packing = SamplePacking::Plain;
-    qint64 plainSize = 0;   ///< bytes of the samples unpacked
-    quint64 plainCrc = 0;   ///< of the samples unpacked
+    qint64 plainSize = 0;   ///< size of the unpacked samples in bytes
+    quint64 plainCrc = 0;   ///< of the unpacked samples
     quint64 streamCrc = 0;  ///< of the packed bytes
 
 protected:

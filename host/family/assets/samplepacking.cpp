@@ -8,11 +8,11 @@ namespace Family {
 
 namespace {
 
-// A block bounds what a stream that lies about its size can cost.
+// The block size limits the cost of a stream that declares a wrong size.
 const int BlockSize = 32768;
 const int CountSize = 4;
 
-// Qt puts the size of what was packed in front of a zlib stream, with the high byte first.
+// Qt expects the unpacked size before the zlib stream, as a big-endian number.
 QByteArray inflatedBlock(const char* stream, int count, int size)
 {
     QByteArray packed(CountSize + count, Qt::Uninitialized);

@@ -12,7 +12,7 @@ using Zorv::StreamCache;
 
 namespace {
 
-// Types of cache items, apart from those of pixels.
+// Types of cache items; they must differ from those of pixels.
 enum ItemType : unsigned char { PlainItem = 16, DeflatedItem = 17 };
 
 unsigned char itemType(SamplePacking packing)

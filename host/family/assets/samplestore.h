@@ -12,38 +12,38 @@ namespace Family {
 
 class PackedAhead;
 
-/// The samples of a collection: their cache, and what packs and unpacks them.
+/// The samples of a collection: their cache and their packing.
 ///
-/// Equal samples are stored once, whatever they are packed in. All `SampleRef` must go before the
-/// store. Main thread only.
+/// Equal samples are stored once, however they are packed. All `SampleRef` must be destroyed before
+/// the store. Main thread only.
 class SampleStore : public QObject
 {
     Q_OBJECT
 
 public:
-    /// A store that the setting "cache_type" chooses; in memory if there is no place for a
-    /// temporary file.
+    /// The setting "cache_type" chooses the kind of cache; in memory if a temporary file cannot be
+    /// created.
     SampleStore();
     ~SampleStore() override;
 
     Zorv::StreamCache* cache() const { return m_cache.get(); }
 
-    /// Takes up packed bytes as a file has them, without unpacking them.
+    /// Stores packed bytes of a file unchanged, without unpacking them.
     SampleRef adopt(SamplePacking packing, const QByteArray& stream, qint64 plainSize,
                     quint64 plainCrc, quint64 streamCrc);
 
-    /// Stores new samples, deflated if that makes them smaller by a good part. Null for none.
+    /// Stores new samples, deflated if that makes them considerably smaller. Null for none.
     SampleRef add(const QByteArray& samples);
 
-    /// Packs samples in any thread; as long as the result lives, `add()` of these bytes costs
-    /// little. It may outlive the store.
+    /// A function that packs samples in any thread. As long as its result lives, `add()` of the
+    /// same bytes is cheap. The function may outlive the store.
     std::function<std::shared_ptr<const void>(const QByteArray& samples)> packer() const;
 
-    /// The packed bytes, as they go to a file.
+    /// The packed bytes, as written to a file.
     QByteArray stream(const SampleData* data) const;
 
-    /// Gives the samples unpacked, in any thread; empty if they are broken. It may outlive the
-    /// store.
+    /// A function that unpacks the samples in any thread; its result is empty if they are broken.
+    /// It may outlive the store.
     std::function<QByteArray()> reader(const SampleData* data) const;
 
 private slots:

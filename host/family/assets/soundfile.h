@@ -20,10 +20,10 @@ using SoundListBase = AssetList<Zorv::Sounds, FamilySound>;
 
 /// The sounds of a game, in a sound file (`.sounds`, see docs/formats.md).
 ///
-/// A row shows "GROUP,NUMBER". Opening reads the table and takes packed samples over; they are
-/// unpacked when they are asked for, and equal ones are stored once. Everything can be undone.
-/// `modified()` and `changed()` come once a step, when all is true. A file that was not changed is
-/// written back the same, and broken records stay in it. Ends by `release()`. Main thread only.
+/// A row shows "GROUP,NUMBER". Opening reads the table and copies packed samples; they are unpacked
+/// on demand, and equal ones are stored once. Everything can be undone. `modified()` and
+/// `changed()` are emitted once per step, when everything is consistent. An unchanged file is
+/// written back identically, broken records included. Destroy it by `release()`. Main thread only.
 class SoundFile final : public SoundListBase, public Zorv::FileWatchObject
 {
     Q_OBJECT
@@ -32,30 +32,30 @@ public:
     SoundFile();
     ~SoundFile() override;
 
-    /// A line for each broken sound, for the person: what was found when the file was read.
+    /// One line per broken sound, for the user: the problems found when reading the file.
     QStringList loadErrors() const;
 
-    /// How many sounds are kept as the broken records of the file that they are.
+    /// The number of sounds kept as broken records of the file.
     int brokenCount() const;
 
-    /// Removes them all, as one step of undo.
+    /// Removes all of them as one undo step.
     void removeBroken();
 
     unsigned count() const override { return unsigned(items().size()); }
     FamilySound* sound(int index) const override { return item(index); }
     void setCurrent(int index) override { currentIndex = index; }
 
-    /// Takes any identifier that can be read, also one that is there already; else the next free
-    /// one behind the last sound. Null for a form that a sound file cannot hold: 1 to 8
-    /// channels of 8, 16, 24 or 32 bits, 1 to 384000 frames a second. Bytes behind the last whole
-    /// frame are left out.
+    /// Uses `id` if it is a valid identifier, even a used one; otherwise the next free one after
+    /// the last sound. Null for a format that a sound file cannot hold: it holds 1 to 8 channels of
+    /// 8, 16, 24 or 32 bits and 1 to 384000 frames per second. Bytes after the last whole frame are
+    /// dropped.
     FamilySound* add(int row, const QVariant& id, const Zorv::SoundSample& sample) override;
     std::function<std::shared_ptr<const void>(const QByteArray&)> packer() const override;
     int find(int from, const QVariant& id) const override;
     bool canName(const QVariant& id) const override;
 
-    /// The first identifier of the group that no sound has, from a number on; the group is left if
-    /// it is full.
+    /// The first identifier in the group that no sound has, from a number on; moves to another
+    /// group if it is full.
     AssetId freeId(AssetId from) const;
 
     void beginChange(const QString& title) override;
@@ -67,7 +67,7 @@ public:
     QString undoTitle() const override { return m_history.undoTitle(); }
     QString redoTitle() const override { return m_history.redoTitle(); }
 
-    /// Whether there is a step, and its title.
+    /// The undo history, for the state and titles of its steps.
     const AssetHistory& steps() const { return m_history; }
 
     void move(unsigned from, unsigned to) override;
@@ -81,21 +81,21 @@ public:
     bool isEmpty() const override { return items().isEmpty(); }
     void reset() override;
 
-    /// Fails for what is no sound file, or is cut off in its table. Broken records are no
-    /// failure, but `loadErrors()`.
+    /// Fails if it is not a sound file or its table is truncated. Broken records are no failure;
+    /// see `loadErrors()`.
     bool fromFile(Zorv::Archive& archive, const QString& fileName, bool asCopy) override;
     bool toFile(Zorv::Archive& archive, const QString& fileName, bool asCopy) override;
     QString fileName() const override { return m_fileName; }
 
-    /// The file has changed on disk, and the person wants it: reads it, without undo.
+    /// Reads the file again, without undo, after it has changed on disk and the user agreed.
     bool reload() override;
     void release() override { delete this; }
 
-    /// What is here now, in the form of a sound file.
+    /// The current content in the format of a sound file.
     std::shared_ptr<AssetSnapshot> snapshot();
 
-    /// Brings back what a snapshot has written: one step of undo. False, with `error` and all as it
-    /// was, for what is no sound file.
+    /// Restores what a snapshot has written, as one undo step. False, with `error` and without a
+    /// change, if it is not a sound file.
     bool restore(QIODevice* device, QString* error);
 
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
@@ -106,15 +106,15 @@ public:
     void change(FamilySound* sound, const FamilySound::State& state);
     void insertBehind(const FamilySound* sound, const ItemPtr& copy);
 
-    /// Gives a state other samples; false for a form that a sound file cannot hold.
+    /// Changes the samples of a state; false for a format that a sound file cannot hold.
     bool setSamples(FamilySound::State* state, const Zorv::SampleInfo& info,
                     const QByteArray& data);
 
 signals:
-    /// There is something to save, or no longer.
+    /// There are unsaved changes, or no longer.
     void modificationChanged(bool isModified);
 
-    /// What is here has just been read from its file, or written to it.
+    /// The content was just read from or written to its file.
     void synchronized();
 
 private:
@@ -133,10 +133,10 @@ private:
     SoundFileData tables(QVector<SampleRef>* streams) const;
     bool write(Zorv::Archive& archive, const QString& fileName, QString* error);
 
-    // Sounds die before the store of their samples, and steps of undo hold sounds.
+    // Order matters: sounds must die before the store of their samples, and undo steps hold sounds.
     std::unique_ptr<SampleStore> m_store;
     AssetHistory m_history;
-    QVector<SampleRef> m_rest;  // what broken records may have meant
+    QVector<SampleRef> m_rest;  // possible samples of broken records
     AssetSnapshots m_snapshots;
     QString m_fileName;
     bool m_changed = false;

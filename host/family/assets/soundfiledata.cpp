@@ -27,7 +27,7 @@ const int MaxChannels = 8;
 const int MaxRate = 384000;
 const quint64 MaxBytes = std::numeric_limits<int>::max() - 1024;
 
-/// Where the fields of head and record stand.
+/// The offsets of the fields in head and record.
 enum HeadField { VersionAt = 8, CountAt = 12, FileSizeAt = 16 };
 enum RecordField {
     GroupAt = 0,
@@ -43,7 +43,7 @@ enum RecordField {
     StreamCrcAt = 40
 };
 
-/// Makes the texts of this file known to translators.
+/// Translation context of this file.
 class Text
 {
     Q_DECLARE_TR_FUNCTIONS(Family)
@@ -66,7 +66,7 @@ void setNumber(QByteArray& data, int at, Number number)
     qToLittleEndian(number, data.data() + at);
 }
 
-// Each piece ends in the checksum of what stands in front of it.
+// Each part ends in the checksum of the bytes before it.
 bool isSealed(const QByteArray& data)
 {
     const int size = data.size() - SealSize;
@@ -127,7 +127,7 @@ bool isPackingFine(const SoundFileData::Stream& stream)
            (stream.packing == SamplePacking::Plain && stream.size == stream.plainSize);
 }
 
-/// The parts of the file that streams have taken, by their offsets: no two overlap.
+/// The parts of the file used by streams, by offset: no two overlap.
 class Places
 {
 public:
@@ -142,8 +142,8 @@ public:
                stream.size <= m_end - stream.offset && stream.size <= MaxBytes;
     }
 
-    /// The number of a stream that lies inside, also of one that is there already; -1 if it
-    /// overlaps another.
+    /// The index of a stream inside the file, which may be known already; -1 if it overlaps
+    /// another.
     int take(const SoundFileData::Stream& stream)
     {
         const auto next = m_taken.lower_bound(stream.offset);
@@ -164,7 +164,7 @@ public:
         return m_streams.size() - 1;
     }
 
-    /// Whether the bytes of a stream are those that a record tells of.
+    /// True if the bytes of the stream match the checksum in the record.
     bool fits(int number, const SoundFileData::Stream& stream) const
     {
         return m_checksums.at(number) == stream.streamCrc;
@@ -201,7 +201,7 @@ private:
     std::map<quint64, int> m_taken;
 };
 
-// What is wrong with a record in itself.
+// Checks a record by itself.
 QString recordFault(const QByteArray& record, const SampleInfo& info,
                     const SoundFileData::Stream& stream)
 {
@@ -269,7 +269,7 @@ QByteArray recordOf(const SoundFileData::Sound& sound, const SoundFileData::Stre
     return record;
 }
 
-// A damaged record is not believed where its samples lie: they stay in the rest of the file.
+// A damaged record may give a wrong position for its samples, so they stay in the rest of the file.
 void place(QIODevice* device, SoundFileData& file, const QVector<QByteArray>& records)
 {
     Places places(device, HeadSize + quint64(records.size()) * RecordSize, file.streams);

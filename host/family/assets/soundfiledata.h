@@ -14,14 +14,14 @@ class QIODevice;
 
 namespace Family {
 
-/// The table of a sound file as docs/formats.md tells it: a record each, without the models.
+/// The table of a sound file as described in docs/formats.md: its records, without the models.
 ///
-/// A record that is wrong in itself, or whose bytes are, has its own bytes in `broken`, beside
-/// what could be read of it. It is written back as those; only the place of its samples follows
-/// them, if the file has them.
+/// If a record or its samples are damaged, `broken` holds the bytes of the record, besides what
+/// could be read. These bytes are written back; only the position of its samples is updated, if the
+/// file has them.
 struct SoundFileData
 {
-    /// A part of the file behind the table.
+    /// A part of the file after the table.
     struct Stream
     {
         quint64 offset = 0;
@@ -35,36 +35,37 @@ struct SoundFileData
     {
         AssetId id;
         Zorv::SampleInfo info;
-        int stream = -1;  ///< in `streams`; -1 without samples, or if they are not to be found
+        int stream = -1;  ///< index in `streams`; -1 if it has no samples or they were not found
         QByteArray broken;
-        QString fault;  ///< why it is broken, in words for the person
+        QString fault;  ///< why it is broken, as a text for the user
     };
 
     QVector<Sound> sounds;
     QVector<Stream> streams;
 
-    /// Where broken records may have their samples: what no other record names.
+    /// Where broken records may have their samples: the parts that no other record uses.
     QVector<Stream> rest;
 
-    /// Reads head and table from the start of a device that can seek, and looks at the checksums
-    /// of all streams. False, with `error`, if it is no such file, or cut off in its table.
+    /// Reads head and table from the start of a seekable device, and verifies the checksums of all
+    /// streams. False, with `error`, if it is not a sound file or the table is truncated.
     bool read(QIODevice* device, QString* error);
 
-    /// What the person is told of a broken record; places count from 1.
+    /// The message about a broken record; `place` counts from 1.
     static QString faultLine(int place, AssetId id, const QString& fault);
 
-    /// The bytes of a stream; empty if they are not to be had.
+    /// The bytes of a stream; empty if they cannot be read.
     static QByteArray readStream(QIODevice* device, const Stream& stream);
 
-    /// Writes a whole file: the streams one behind the other, then the rest. `bytesOf` gives the
-    /// bytes of each, counted through both. False, with `error`, if the device takes not all.
+    /// Writes a whole file: the streams in sequence, then the rest. `bytesOf` returns the bytes of
+    /// each; its index runs through both lists. False, with `error`, if the device does not take
+    /// everything.
     bool write(QIODevice* device, const std::function<QByteArray(int)>& bytesOf,
                QString* error) const;
 
-    /// True for a form that a sound file can hold.
+    /// True for a format that a sound file can hold.
     static bool isFine(const Zorv::SampleInfo& info);
 
-    /// The bytes that the samples of a form take.
+    /// The size of the samples in bytes.
     static quint64 plainSize(const Zorv::SampleInfo& info);
 };
 

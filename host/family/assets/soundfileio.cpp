@@ -196,7 +196,7 @@ bool SoundFile::write(Zorv::Archive& archive, const QString& fileName, QString* 
     QVector<SampleRef> streams;
     const SoundFileData data = tables(&streams);
     const auto bytesOf = [&](int stream) { return m_store->stream(streams[stream].get()); };
-    // Before the old file is touched: a temporary file can have gone.
+    // Check before touching the old file: a temporary file may have disappeared.
     for (int i = 0; i < streams.size(); ++i) {
         if (bytesOf(i).size() != streams[i]->item->size) {
             *error =

@@ -38,7 +38,7 @@ SpriteCollection::~SpriteCollection()
     dropItems();
 }
 
-// Lets go of pixels in all places but the list.
+// Releases pixels everywhere except in the list.
 void SpriteCollection::letGo()
 {
     m_snapshots.cancel();
@@ -347,7 +347,7 @@ void SpriteCollection::shownChanged()
 void SpriteCollection::take(Content&& content, bool asCopy)
 {
     letGo();
-    // The old pixels need their store until the last of them has gone.
+    // Old pixels need their store until the last of them is destroyed.
     const std::unique_ptr<PixelStore> old = std::exchange(m_store, std::move(content.store));
     setCache(m_store->cache());
     m_unshown = content.unshown;

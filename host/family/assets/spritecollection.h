@@ -17,12 +17,13 @@ struct RemapItem;
 
 using SpriteListBase = AssetList<Zorv::Sprites, FamilySprite>;
 
-/// The sprites of a game with their palettes, whatever they are stored in.
+/// The sprites of a game with their palettes, independent of how they are stored.
 ///
-/// A row shows "GROUP,NUMBER". Pixels are unpacked when they are asked for, and equal ones are
-/// stored once. Everything can be undone: sprites, their order, palettes and remaps have one
-/// history. `modified()`, `changed()` and `palChanged()` come once a step, when all is true. Ends
-/// by `release()`. Main thread only; `forEachImage()` unpacks on several.
+/// A row shows "GROUP,NUMBER". Pixels are unpacked on demand, and equal ones are stored once.
+/// Everything can be undone: sprites, their order, palettes and remaps share one history.
+/// `modified()`, `changed()` and `palChanged()` are emitted once per step, when everything is
+/// consistent. Destroy it by `release()`. Main thread only; `forEachImage()` unpacks on several
+/// threads.
 class SpriteCollection : public SpriteListBase
 {
     Q_OBJECT
@@ -30,48 +31,48 @@ class SpriteCollection : public SpriteListBase
 public:
     ~SpriteCollection() override;
 
-    /// What was found broken when the file was read, a line each for the person.
+    /// The broken things found when the file was read, one line each for the user.
     QStringList loadErrors() const { return m_loadErrors; }
 
-    /// How many sprites, palettes, remaps and pixels are kept as the broken records of the file
-    /// that they are. They are written back as they are.
+    /// The number of sprites, palettes, remaps and pixels kept as broken records of the file. They
+    /// are written back unchanged.
     int brokenCount() const;
 
-    /// Removes them all, as one step of undo.
+    /// Removes all of them as one undo step.
     void removeBroken();
 
-    /// True if a sprite has that identifier. Costs the same for any number of sprites.
+    /// True if a sprite has that identifier. Takes constant time.
     bool contains(AssetId id) const;
 
-    /// Costs the same for any number of sprites, from row 0 on.
+    /// Takes constant time when searching from row 0.
     int find(int from, const QVariant& id) const override;
     bool canName(const QVariant& id) const override;
 
-    /// The sprite of that identifier, the first of several; null if there is none.
+    /// The first sprite with that identifier; null if there is none.
     FamilySprite* byId(AssetId id) const;
 
-    /// The first identifier of the group that no sprite has, from a number on; the group is left if
-    /// it is full.
+    /// The first identifier in the group that no sprite has, from a number on; moves to another
+    /// group if it is full.
     AssetId freeId(AssetId from) const;
 
-    /// Adds a sprite behind a row (-1 for the first place) with an image as
-    /// `Zorv::Sprite::setImage()` takes it. One step of undo. Null for an image without pixels.
+    /// Adds a sprite after a row (-1: as first) with an image as for `Zorv::Sprite::setImage()`.
+    /// One undo step. Null for an image without pixels.
     FamilySprite* insertSprite(int row, AssetId id, QPoint axis, const QImage& image);
 
     PaletteList* palettes() const override { return m_palettes.get(); }
 
-    /// Shows the sprites of `addSprite()` in the list, as one step of undo.
+    /// Adds the sprites of `addSprite()` to the list, as one undo step.
     void refresh() override;
     void removeSprite(int index) override;
 
-    /// Removes several, in one step of undo.
+    /// Removes several sprites in one undo step.
     void removeSprites(QVector<int> rows);
     void setCurrent(int index) override;
     unsigned count() const override { return unsigned(items().size()); }
     FamilySprite* sprite(int index) const override { return item(index); }
 
-    /// Has the next free number behind the last sprite. It is in no list, and its changes in no
-    /// undo, until `refresh()`.
+    /// Gets the next free number after the last sprite. Until `refresh()` it is in no list, and its
+    /// changes are not recorded for undo.
     FamilySprite* addSprite() override;
 
     /// Packs pixels.
@@ -86,13 +87,13 @@ public:
     QString undoTitle() const override { return m_history.undoTitle(); }
     QString redoTitle() const override { return m_history.redoTitle(); }
 
-    /// Whether there is a step, and its title.
+    /// The undo history, for the state and titles of its steps.
     const AssetHistory& steps() const { return m_history; }
 
     void move(unsigned from, unsigned to) override;
     void remove(unsigned index) override;
 
-    /// Sorts sprites by group and number, palettes likewise.
+    /// Sorts sprites by group and number, and palettes likewise.
     void autoOrganize() override;
 
     int checkErrors() override { return m_loadErrors.size(); }
@@ -102,11 +103,11 @@ public:
     QString fileName() const override { return m_fileName; }
     void release() override { delete this; }
 
-    /// What is here now, in the form of a sprite file.
+    /// The current content in the format of a sprite file.
     std::shared_ptr<AssetSnapshot> snapshot();
 
-    /// Brings back what a snapshot has written, `images` being its own: one step of undo. False,
-    /// with `error` and all as it was, for what is no sprite file.
+    /// Restores what a snapshot has written, as one undo step; `images` comes from that snapshot.
+    /// False, with `error` and without a change, if it is not a sprite file.
     bool restore(QIODevice* device, const QStringList& images, QString* error);
 
     /// True if the sprites are loose images in a folder.
@@ -121,18 +122,18 @@ public:
     void insertBehind(const FamilySprite* sprite, const QVector<ItemPtr>& items);
     void append(const QVector<ItemPtr>& sprites);
 
-    /// For palettes: their colours or remaps have changed, and with them what sprites show.
+    /// For palettes: colours or remaps have changed, and therefore the look of sprites.
     void shownChanged();
 
 signals:
-    /// There is something to save, or no longer.
+    /// There are unsaved changes, or no longer.
     void modificationChanged(bool isModified);
 
-    /// What is here has just been read from its file, or written to it.
+    /// The content was just read from or written to its file.
     void synchronized();
 
 protected:
-    /// All that a file holds, read and not yet taken over.
+    /// The content of a file after reading, before it replaces the old content.
     struct Content
     {
         Content();
@@ -141,28 +142,27 @@ protected:
         QVector<ItemPtr> sprites;
         QVector<PaletteList::ItemPtr> palettes;
         QVector<std::shared_ptr<RemapItem>> remaps;
-        QVector<PixelRef> unshown;  ///< pixels of the file that no sprite shows
-        QVector<PixelRef> all;      ///< all of it, if broken records of sprites may name any
+        QVector<PixelRef> unshown;  ///< pixels in the file that no sprite shows
+        QVector<PixelRef> all;      ///< all pixels, if broken sprite records may use any of them
         QStringList errors;
     };
 
     SpriteCollection();
 
-    /// Takes pixels of a file up.
+    /// A function that stores the pixels of a file.
     using Adopt = std::function<PixelRef(const SpriteFileData::Stream& stream, const QByteArray&)>;
     static PixelRef adopted(PixelStore* store, const SpriteFileData::Stream& stream,
                             const QByteArray& bytes);
 
-    /// Reads a sprite file. False, with `error`, for what is none.
+    /// Reads a sprite file. False, with `error`, if it is not one.
     bool readContent(QIODevice* device, const Adopt& adopt, Content* content, QString* error);
 
-    /// Takes a content over in place of the old one, without undo; with `asCopy` it counts as
-    /// modified.
+    /// Replaces the old content without undo; with `asCopy` the new content counts as modified.
     void take(Content&& content, bool asCopy);
     void setFileName(const QString& fileName) { m_fileName = fileName; }
     void setClean();
 
-    /// Pixels that must stay in the file though no sprite may show them.
+    /// Pixels that must stay in the file even if no sprite shows them.
     const QVector<PixelRef>& keptPixels() const;
 
 private:
@@ -175,7 +175,8 @@ private:
     void tellModified();
     void takeSprites(const SpriteFileData& data, const QVector<PixelRef>& pixels, Content* content);
 
-    // Records die before the store of their pixels, and steps of undo hold records.
+    // Order matters: records must die before the store of their pixels, and undo steps hold
+    // records.
     std::unique_ptr<PixelStore> m_store;
     AssetHistory m_history;
     std::unique_ptr<PaletteList> m_palettes;
@@ -183,12 +184,12 @@ private:
     QVector<ItemPtr> m_pending;
     QVector<PixelRef> m_unshown;
     QVector<PixelRef> m_all;
-    mutable QHash<quint32, int> m_rowOfId;  // the first of each
+    mutable QHash<quint32, int> m_rowOfId;  // the first with each identifier
     mutable bool m_rowsKnown = false;
-    QHash<quint32, int> m_ids;  // how many sprites have each, of the list and pending
+    QHash<quint32, int> m_ids;  // how many sprites have each, pending ones included
     QStringList m_loadErrors;
     QString m_fileName;
-    FamilySprite* m_current = nullptr;  // that of currentIndex, which follows it
+    FamilySprite* m_current = nullptr;  // follows currentIndex
     bool m_changed = false;
     bool m_countChanged = false;
 };

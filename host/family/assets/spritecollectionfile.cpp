@@ -19,8 +19,8 @@ quint64 checksum(const QByteArray& bytes)
     return Zorv::crc64(reinterpret_cast<const uchar*>(bytes.constData()), unsigned(bytes.size()));
 }
 
-/// Loose images as a sprite file has them: they may be GIF there, and another program may have
-/// written to one.
+/// Writes loose images in the format of a sprite file. GIF is converted, since sprite files have no
+/// GIF; sizes and checksums are computed again, since another program may have changed an image.
 bool writeLoose(QIODevice* device, Data data, const AssetSnapshot::BytesOf& bytesOf)
 {
     QVector<QByteArray> streams;
@@ -39,7 +39,7 @@ bool writeLoose(QIODevice* device, Data data, const AssetSnapshot::BytesOf& byte
     return data.write(device, [&](int stream) { return streams[stream]; });
 }
 
-/// Pixels that are there already, found by what a file tells of them.
+/// Finds existing pixels by the data that a file stores about them.
 class KnownPixels
 {
 public:

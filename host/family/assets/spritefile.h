@@ -8,8 +8,8 @@ namespace Family {
 
 /// A collection in a sprite file (`.sprites`, see docs/formats.md).
 ///
-/// Opening reads tables and takes packed pixels over; none is unpacked. A file that was not changed
-/// is written back byte by byte the same.
+/// Opening reads tables and copies packed pixels without unpacking any. An unchanged file is
+/// written back byte for byte.
 class SpriteFile final : public SpriteCollection, public Zorv::FileWatchObject
 {
     Q_OBJECT
@@ -18,14 +18,14 @@ public:
     SpriteFile();
     ~SpriteFile() override;
 
-    /// Fails for what is no sprite file, or is cut off in its tables. Broken records are no
-    /// failure, but `loadErrors()`.
+    /// Fails if it is not a sprite file or its tables are truncated. Broken records are no failure;
+    /// see `loadErrors()`.
     bool fromFile(Zorv::Archive& archive, const QString& fileName, bool asCopy) override;
     bool toFile(Zorv::Archive& archive, const QString& fileName, bool asCopy) override;
     QString fileName() const override { return SpriteCollection::fileName(); }
 
-    /// The file has changed on disk, and the person wants it: reads it, without undo. If that
-    /// fails, the person is told, and all stays as it is.
+    /// Reads the file again, without undo, after it has changed on disk and the user agreed. If
+    /// that fails, shows a message and changes nothing.
     bool reload() override;
 };
 

@@ -63,7 +63,7 @@ QByteArray headBytes(const Head& head)
     return writer.sealed();
 }
 
-// Each reads a record; false if its values make no sense.
+// Each function reads a record; false if its values are invalid.
 
 bool readPalette(RecordReader& reader, SpriteFileData::Palette* palette)
 {
@@ -169,8 +169,8 @@ QByteArray recordOf(const SpriteFileData::Remap& remap)
     return writer.sealed();
 }
 
-// A broken record keeps its bytes; only where its pixels lie moves with them. Pixels that were not
-// in the file must not come to lie in it.
+// A broken record keeps its bytes, except for the position of its pixels, which may move. If the
+// pixels were not in the file, the position must not point into the new file by accident.
 QByteArray brokenRecord(const SpriteFileData::Stream& stream, quint64 fileSize)
 {
     QByteArray record = stream.broken;
@@ -187,7 +187,7 @@ QByteArray brokenRecord(const SpriteFileData::Stream& stream, quint64 fileSize)
     return wasSealed ? sealed(record) : record;
 }
 
-/// Takes the tables apart.
+/// Parses the tables.
 class TableReader
 {
 public:
@@ -236,8 +236,8 @@ bool readTables(SpriteFileData* data, const Head& head, const QByteArray& bytes)
     return data->problems.isEmpty();
 }
 
-// Of pixels whose record leads nowhere, the bytes are those that are left over between their
-// neighbours. Nothing can be made of them, but they are not to be lost.
+// If a record gives no valid position for its pixels, assume that they are the unused bytes between
+// its neighbours. They cannot be decoded, but must not be lost.
 void guessPlaces(SpriteFileData* data, quint64 tableEnd, quint64 size, quint64 left)
 {
     quint64 end = tableEnd;
@@ -260,8 +260,8 @@ void guessPlaces(SpriteFileData* data, quint64 tableEnd, quint64 size, quint64 l
     }
 }
 
-// Streams lie behind the tables and not over each other: together they have no more bytes than
-// the file.
+// Streams must be after the tables. Their total size is limited to that of the file, so overlapping
+// streams cannot multiply it.
 void checkStreams(SpriteFileData* data, const QByteArray& bytes, quint64 tableEnd, quint64 size,
                   int firstRecord)
 {
@@ -352,7 +352,7 @@ bool SpriteFileData::read(QIODevice* device, QString* error)
     }
     const bool isWhole = readTables(this, head, bytes);
     if (!isSealed(bytes.constData(), HeadSize)) {
-        // Counts that lead to whole records everywhere are right.
+        // If the counts lead to whole records everywhere, only the checksum of the head is wrong.
         if (!isWhole) {
             *error = SpriteFileData::tr("its head is broken");
             return false;

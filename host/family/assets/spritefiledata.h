@@ -14,10 +14,10 @@ class QIODevice;
 
 namespace Family {
 
-/// The tables of a sprite file as docs/formats.md tells them: a record each, without the models.
+/// The tables of a sprite file as described in docs/formats.md: their records, without the models.
 ///
-/// A record whose checksum or values are wrong has its bytes in `broken`, beside what could be read
-/// of it; it is written back as those bytes.
+/// If the checksum or the values of a record are wrong, `broken` holds its bytes, besides what
+/// could be read. These bytes are written back.
 struct SpriteFileData
 {
     Q_DECLARE_TR_FUNCTIONS(Family::SpriteFileData)
@@ -40,8 +40,8 @@ public:
         quint64 pixelCrc = 0;
         quint64 streamCrc = 0;
         QByteArray broken;
-        bool inFile = true;    ///< its bytes lie in the file, behind the tables
-        bool isGuess = false;  ///< but where is not told by the record: what lies there is nobody's
+        bool inFile = true;    ///< its bytes are in the file, after the tables
+        bool isGuess = false;  ///< but its position was guessed, not read
     };
     struct Sprite
     {
@@ -62,18 +62,18 @@ public:
     QVector<Stream> streams;
     QVector<Sprite> sprites;
     QVector<Remap> remaps;
-    QStringList problems;  ///< a line for each broken record, for the person
+    QStringList problems;  ///< one line per broken record, for the user
 
-    /// Reads head and tables from the start of a device that can seek. False, with `error`, if it
-    /// is no such file, or cut off in its tables; broken records are told in `problems`.
+    /// Reads head and tables from the start of a seekable device. False, with `error`, if it is not
+    /// a sprite file or its tables are truncated. Broken records are listed in `problems`.
     bool read(QIODevice* device, QString* error);
 
-    /// The bytes of a stream; empty if they are not to be had.
+    /// The bytes of a stream; empty if they cannot be read.
     static QByteArray readStream(QIODevice* device, const Stream& stream);
 
-    /// Writes a whole file: sizes and checksums of streams as they stand, their offsets one behind
-    /// the other, and the bytes that `bytesOf` gives for the index of each. False if
-    /// bytes are missing or the device takes not all.
+    /// Writes a whole file. Sizes and checksums of streams are written as they are, their offsets
+    /// are computed so that they follow each other, and `bytesOf` returns the bytes of each. False
+    /// if bytes are missing or the device does not take everything.
     bool write(QIODevice* device, const std::function<QByteArray(int)>& bytesOf) const;
 };
 

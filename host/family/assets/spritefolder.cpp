@@ -19,7 +19,7 @@ namespace {
 
 const QLatin1String alwaysFits("png");
 
-// A format that cannot hold the colours would lose them without a word.
+// Checked in advance, because writing would silently lose colours in an unsuitable format.
 bool holdsColors(const QString& suffix, int bits, const PaletteColors& colors)
 {
     if (suffix == alwaysFits) {
@@ -41,7 +41,7 @@ const PaletteColors ownColors(const FamilySprite* sprite)
 bool writeFile(Zorv::Archive& archive, const QString& fileName,
                const std::function<bool(QIODevice*)>& write, QString* error)
 {
-    // Links in the folder are not read, and what one leads to is none of its images.
+    // Links in the folder are not read, so their targets must not be overwritten either.
     if (QFileInfo(fileName).isSymLink()) {
         *error = SpriteFolder::tr("Cannot write %1: it is a link. Remove it, or put a file in its "
                                   "place.")
@@ -186,7 +186,7 @@ bool SpriteFolder::writeImage(Zorv::Archive& archive, const QString& folder, Fam
     }
     const QString path = QDir(folder).filePath(sprite->state.file);
     const QImage image = imageOfRows(sprite->state.pixels->format, rows, tableOfColors(colors));
-    // Undo may still lead back to what the file holds.
+    // Undo may still need the old content of the file.
     store()->takeIn(path);
     QString reason;
     const bool done = writeFile(

@@ -5,12 +5,11 @@
 
 namespace Family {
 
-/// A collection of loose images in a folder, a sprite each (see docs/formats.md).
+/// A collection of loose images in a folder, one per sprite (see docs/formats.md).
 ///
-/// Images are PNG, PCX and GIF; a list beside them, "sprites.txt", has what they cannot hold.
-/// Pixels stay in their files until they are shown. Saving writes what has changed, each file whole
-/// or not at all; last, the files of sprites that were removed are deleted. Palettes that no sprite
-/// uses are not kept.
+/// Images are PNG, PCX and GIF; the list "sprites.txt" stores what they cannot hold. Pixels stay in
+/// their files until they are shown. Saving writes changed files, each completely or not at all,
+/// and at last deletes the files of removed sprites. Palettes that no sprite uses are not saved.
 class SpriteFolder final : public SpriteCollection
 {
     Q_OBJECT
@@ -19,8 +18,8 @@ public:
     SpriteFolder();
     ~SpriteFolder() override;
 
-    /// `fileName` is the folder. An image that cannot be read is told in `loadErrors()`, and its
-    /// file is left alone.
+    /// `fileName` is the folder. Images that cannot be read are listed in `loadErrors()` and stay
+    /// untouched.
     bool fromFile(Zorv::Archive& archive, const QString& fileName, bool asCopy) override;
     bool toFile(Zorv::Archive& archive, const QString& fileName, bool asCopy) override;
 
@@ -28,7 +27,7 @@ public:
     bool isFolder() const override { return true; }
 
 private:
-    /// What a file of the folder holds.
+    /// The content of a file in the folder.
     struct Written
     {
         PixelRef pixels;
@@ -43,8 +42,8 @@ private:
     QString newName(const FamilySprite* sprite, const QString& folder) const;
     void removeOld(const QString& folder);
 
-    QHash<QString, Written> m_written;  // by the name of the file
-    QVector<FolderList::Image> m_lost;  // lines of the list that stay
+    QHash<QString, Written> m_written;  // by file name
+    QVector<FolderList::Image> m_lost;  // entries of the list to keep
     QStringList m_unknown;
 };
 

@@ -15,7 +15,7 @@ namespace {
 
 using Data = SpriteFileData;
 
-// In the order of their places in the file that they came from, new ones behind.
+// In the order of the file that they came from, then new ones.
 QVector<PixelRef> orderedPixels(const SpriteCollection& sprites, QVector<PixelRef> pixels)
 {
     for (const auto& sprite : sprites.items()) {

@@ -10,16 +10,16 @@ namespace Family {
 class PixelStore;
 class SpriteCollection;
 
-/// What a sprite file says about the sprites of a collection, and the pixels that stand in it.
+/// The data of a sprite file for a collection, and the pixels that it contains.
 struct SpriteTables
 {
     SpriteFileData data;
-    QVector<PixelRef> pixels;  ///< one for each stream
+    QVector<PixelRef> pixels;  ///< one per stream
 
-    /// `kept` are pixels that stay in the file though no sprite may show them.
+    /// `kept` are pixels that stay in the file even if no sprite shows them.
     SpriteTables(const SpriteCollection& sprites, const QVector<PixelRef>& kept);
 
-    /// False if a temporary file has lost bytes: better found out before the old file is gone.
+    /// False if a temporary file has lost bytes. Check it before the old file is overwritten.
     bool isAllThere(const PixelStore& store) const;
 };
 

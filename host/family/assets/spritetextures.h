@@ -16,28 +16,30 @@ namespace Family {
 
 class PixelData;
 
-/// The textures of a collection's pixels, made when they are drawn.
+/// A least-recently-used cache of the textures for a collection's pixels, with a byte limit.
+/// Textures are created when they are drawn.
 ///
-/// Sprites with the same pixels share one. There are two kinds for indexed pixels, indices and
-/// colours. Those that were not drawn for the longest time go when all take more than a limit, and
-/// those of pixels that no sprite of the list shows at the end of the step. Main thread only.
+/// Sprites with equal pixels share a texture. Indexed pixels have two kinds: indices and colours.
+/// Beyond the limit, the textures that were not drawn for the longest time are dropped. At the end
+/// of each step, textures of pixels that no sprite in the list shows are dropped too. Main thread
+/// only.
 class SpriteTextures
 {
 public:
-    /// `limit` is in bytes; a texture that is larger stays by itself until the next one comes.
+    /// `limit` is in bytes. A larger texture stays alone until the next one is created.
     explicit SpriteTextures(int limit = 128 * 1024 * 1024) : m_textures(limit) {}
 
-    /// The texture of pixels: of indices if `image` gives any and `asIndices` is set, otherwise of
-    /// colours. Null where GL does not work, and for an image that is null, which is not asked for
-    /// again. Good until the next call.
+    /// The texture of pixels: of indices if `asIndices` is set and `image` gives any, otherwise of
+    /// colours. Null if GL does not work, or if the image is null; then it is not requested again.
+    /// Valid until the next call.
     Zorv::Texture* texture(const PixelData* pixels, bool asIndices,
                            const std::function<QImage()>& image);
 
-    /// Forgets the textures of pixels at once.
+    /// Drops the textures of pixels at once.
     void drop(const PixelData* pixels);
 
-    /// A sprite of the list shows pixels, or no longer does; `dropReleased()` forgets those that no
-    /// `keep()` came for meanwhile.
+    /// A sprite of the list now shows these pixels, or no longer does. `dropReleased()` drops
+    /// released ones that were not kept again.
     void keep(const PixelData* pixels);
     void release(const PixelData* pixels);
     void dropReleased();
@@ -49,10 +51,10 @@ private:
     QSet<const PixelData*> m_released;
 };
 
-/// The texture units of the stage.
+/// The texture units that the stage uses.
 enum TextureUnit { ImageUnit = 0, PaletteUnit = 1 };
 
-/// Binds a texture to a unit of the current context, and leaves the first one active. Nothing
+/// Binds a texture to a unit of the current context, then makes the first unit active. Does nothing
 /// without a context or texture.
 void bindTexture(const Zorv::Texture* texture, TextureUnit unit);
 

@@ -21,7 +21,7 @@ void WorkPool::start(int count, std::function<void(int)> work)
 {
     m_work = std::move(work);
     m_next = 0;
-    // Each thread takes one piece after the other, until none is left.
+    // Each thread takes one piece after another until none is left.
     for (int i = 0; i < std::min(count, m_pool.maxThreadCount()); ++i) {
         m_pool.start(QRunnable::create([this, count] {
             for (int piece = m_next++; piece < count; piece = m_next++) {
@@ -34,7 +34,7 @@ void WorkPool::start(int count, std::function<void(int)> work)
 void WorkPool::wait()
 {
     m_pool.waitForDone();
-    m_next.load();  // what the threads have written last: all that they did comes before
+    m_next.load();  // synchronizes memory: everything the threads wrote is visible from here on
 }
 
 }  // namespace Family

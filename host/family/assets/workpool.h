@@ -7,20 +7,20 @@
 
 namespace Family {
 
-/// Does pieces of work on several threads, a batch at a time.
+/// Runs work on several threads, one batch at a time.
 class WorkPool
 {
 public:
-    /// 0 for as many threads as there are cores.
+    /// 0: one thread per core.
     explicit WorkPool(int threads = 0);
 
-    /// Waits for the batch that was begun.
+    /// Waits for the current batch.
     ~WorkPool();
 
     int threads() const { return m_pool.maxThreadCount(); }
 
-    /// Calls `work(i)` for each `i` below `count`, on any of the threads, each once. The batch
-    /// before has to be done.
+    /// Calls `work(i)` once for each `i` below `count`, on any of the threads. The previous batch
+    /// must be finished.
     void start(int count, std::function<void(int)> work);
     void wait();
 
