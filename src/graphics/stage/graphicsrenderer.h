@@ -124,7 +124,8 @@ public:
     /// stages do. The default is false.
     void setGroundFitted(bool isOn);
 
-    /// Sets the pictures of the crosses. If a file does not exist, the small cross is used instead.
+    /// Sets the pictures of the crosses. If the file of a cross does not exist, its small picture
+    /// is used instead.
     void setCrossHair(CrossHairType type, const QString& main, const QString& secondary,
                       const QString& extra);
 
@@ -316,7 +317,7 @@ signals:
     /// access boxes of the text.
     void boxSelectionChanged();
 
-    /// The origin or the zoom has changed, by a call or by the user, at each step of a drag.
+    /// The origin or the zoom has changed, by a call or by the user; during a drag at each step.
     void viewChanged();
 
     /// Emitted before and after each mouse or key event. Between the two the stage works with nodes
@@ -357,8 +358,9 @@ protected:
     /// for all sprites and onion skins of the stage.
     virtual QMatrix4x4 spriteMatrix(QPoint base, QPoint offset, QSize size, float rotation) const;
 
-    /// The last step of both functions above: draws the sprite with its palette, as the unit square
-    /// under `matrix`, alpha-blended. Does nothing for a null sprite or one without a texture.
+    /// The last step of `renderSprite()` and `renderOnionSkinSprite()`: draws the sprite with its
+    /// palette, as the unit square under `matrix`, alpha-blended. Does nothing for a null sprite or
+    /// one without a texture.
     void drawSprite(const QMatrix4x4& matrix, const Sprite* sprite, unsigned char flip,
                     float opacity, OnionEffect effect);
 
