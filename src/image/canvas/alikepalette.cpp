@@ -18,7 +18,7 @@ int squared(int x)
     return x * x;
 }
 
-/// The distance by colour; equal ones are ordered by alpha.
+/// Compared by colour first, then by alpha.
 std::tuple<int, int> distance(QRgb x, QRgb y)
 {
     return {squared(qRed(x) - qRed(y)) + squared(qGreen(x) - qGreen(y)) +

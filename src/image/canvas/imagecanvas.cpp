@@ -198,7 +198,7 @@ ImageLayer* ImageCanvas::newRasterLayer(const QImage& image)
     if (!d->isPossible(d->size, d->format)) {
         return nullptr;
     }
-    // An image is adapted by its own colour table, which a layer does not have.
+    // Adapted before it becomes a layer: layers drop the colour table that gives its colours.
     ImageLayer* const layer = image.isNull() ? new RasterLayer(this, d->size, d->format)
                                              : new RasterLayer(this, d->adapted(image));
     if (!d->layers->add(layer, true)) {

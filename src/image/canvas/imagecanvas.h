@@ -143,8 +143,8 @@ public:
     /// Mirrors all layers. One step, "flip".
     bool flip(bool horizontal, bool vertical);
 
-    /// Turns the active layer clockwise by `angle` degrees. The canvas takes its new size; with
-    /// other layers it only grows to hold it. One step, "rotate".
+    /// Turns the active layer clockwise by `angle` degrees. The canvas takes that layer's new
+    /// size; with other layers it only grows to hold it. One step, "rotate".
     bool rotate(float angle, ImageResizeFilter filter);
 
     /// Turns all layers. One step, "rotate".

@@ -53,7 +53,7 @@ bool ImageCanvas::setSize(const QSize& size, const QPoint& position, bool record
     return d->macro("setSize", [&] { return d->resizeLayers(size, position); });
 }
 
-// Layers resize their pixels. The axis moves too, unless the canvas was empty before.
+// Layers resize their pixels. The axis moves too, unless the canvas was empty or keeps its size.
 bool ImageCanvasPrivate::resizeLayers(const QSize& newSize, const QPoint& corner)
 {
     const QSize before = size;

@@ -16,7 +16,7 @@ public:
     explicit ImageUndoCommand(const QString& text = QString());
     ~ImageUndoCommand() override;
 
-    /// Calls `doRedo()`, except the first time.
+    /// Calls `doRedo()`, except the first time, when the push itself calls it.
     void redo() final;
 
     /// The bytes held only for this step. They may change in `undo()`, `redo()` and `pack()`.
