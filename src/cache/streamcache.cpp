@@ -53,6 +53,7 @@ StreamCache* StreamCache::instance(Type type)
 
 void StreamCache::removeItem(Item* item)
 {
+    // With the index, removing many items one by one does not search the whole list each time.
     m_index->build(m_items);
     const int position = m_index->position(m_items, item);
     if (position >= 0) {
@@ -67,6 +68,7 @@ void StreamCache::removeItem(Item* item)
 void StreamCache::clear()
 {
     m_index->clear();
+    // An item may be in the list more than once, but must be deleted only once.
     QSet<Item*> deleted;
     while (!m_items.isEmpty()) {
         Item* last = m_items.takeLast();

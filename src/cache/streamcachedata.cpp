@@ -6,7 +6,7 @@ namespace Zorv {
 
 namespace {
 
-const unsigned char FileType = 255;
+const unsigned char FileType = 255;  // ignored: a FileCache derives the type from the name
 
 }  // namespace
 

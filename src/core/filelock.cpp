@@ -83,6 +83,8 @@ bool FolderLock::take(const QString& folder, int milliseconds)
 FileLock::Result FolderLock::tryTake(int handle)
 {
     const QMutexLocker locker(&held().mutex);
+    // flock() treats a second handle as another owner, even in the same process. So locks that this
+    // process already holds are only counted.
     const auto own = held().locks.find({m_device, m_inode});
     if (own != held().locks.end()) {
         ::close(handle);

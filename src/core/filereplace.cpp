@@ -101,6 +101,7 @@ void takeOwnerAndMode(QFile& file, const QString& from)
             mode = (mode & ~mode_t(070)) | ((mode & 07) << 3 & mode);
         }
         if (!ownerTaken) {
+            // Under another owner, set-user-ID and set-group-ID would grant the wrong rights.
             mode &= 01777;
         }
     }

@@ -76,6 +76,8 @@ void MessageList::unregisterMessages(Messages* messages)
 
 void MessageList::update()
 {
+    // `m_total` is the number of rows that the views know. All old rows are removed first, then all
+    // new ones are inserted.
     if (m_total > 0) {
         beginRemoveRows({}, 0, m_total - 1);
         m_total = 0;

@@ -23,6 +23,8 @@ bool OrganizableListModel::dropMimeData(const QMimeData* data, Qt::DropAction ac
                   waiting.end());
     std::sort(waiting.begin(), waiting.end(), std::greater<int>());
 
+    // Moves one row at a time, from top to bottom. Each move shifts the rows in between, so the row
+    // numbers that are still waiting are adjusted.
     while (!waiting.isEmpty()) {
         const int from = waiting.takeLast();
         if (from < target && from != target - 1) {

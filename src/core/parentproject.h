@@ -195,8 +195,8 @@ public:
     /// except hidden or unreadable files and links.
     QStringList backupFiles(const QString& folderName) const;
 
-    /// Saves every modified file of the open projects. A file without a name is passed to its
-    /// `FileEditor`, which asks for one.
+    /// Saves every modified file of the open projects. If a file has no name or no longer exists on
+    /// disk, its `FileEditor` asks for a name.
     void save();
 
     /// Saves everything to a new place, where work then continues. If one project is open and it

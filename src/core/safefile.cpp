@@ -366,6 +366,7 @@ bool SafeFilePrivate::replaceTarget()
     Unfinished::remove(file.fileName());
     file.setFileName({});
     lock.reset();
+    // The new name must reach the disk as well.
     if (waits) {
         FileReplace::syncFolder(QFileInfo(target).absolutePath());
     }

@@ -139,6 +139,7 @@ bool TextCodecs::isFaithful(const QByteArray& data, int number)
     const QByteArray mark = byteOrderMark(data);
     QTextCodec::ConverterState decoding;
     QTextCodec::ConverterState encoding(QTextCodec::IgnoreHeader);
+    // Works in blocks, so that the first difference ends the work.
     int same = -1;
     for (int start = 0; start < data.size(); start += Block) {
         const int size = qMin(Block, data.size() - start);

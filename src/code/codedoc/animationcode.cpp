@@ -121,6 +121,7 @@ FrameCode* AnimationCode::insertFrame(unsigned index)
     if (!head || head->type() != CodeNode::Animation) {
         return nullptr;
     }
+    // The template may not parse as a frame: only a frame in the inserted lines counts.
     FrameCode* made = static_cast<const AnimationCode*>(head)->frames().value(place);
     const int madeLine = made ? made->block().blockNumber() : -1;
     return madeLine >= line && madeLine <= line + text.count(QLatin1Char('\n')) ? made : nullptr;

@@ -242,6 +242,7 @@ void Animations::move(unsigned from, unsigned to)
     animation->remove(true);
     document()->insertBefore(at(to), text, false);
     endChange();
+    // With the last index, at(to) is null after the removal, and a null node means the start.
     const unsigned place = to == size - 1 ? 0 : to;
     if (AnimationCode* moved = at(place)) {
         moved->setCurrentFrame(frame);
@@ -256,6 +257,8 @@ void Animations::move(unsigned from, unsigned to)
 void Animations::autoOrganize()
 {
     beginChange(tr("Auto organize animations"));
+    // Insertion sort: standard algorithms need a strict weak order, but a number and a text are not
+    // ordered here.
     std::vector<SortKey> keys(d->list.begin(), d->list.end());
     for (auto key = keys.begin(); key != keys.end(); ++key) {
         const auto place = std::find_if(

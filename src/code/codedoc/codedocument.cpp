@@ -41,6 +41,7 @@ CodeDocument::CodeDocument(short tag) : RootCode(tag)
 CodeDocument::~CodeDocument()
 {
     emit closing();
+    // An editor may be registered several times, but must be released only once.
     QList<CodeDocumentEditor*> editors;
     for (CodeDocumentEditor* editor : qAsConst(d->editors)) {
         if (!editors.contains(editor)) {

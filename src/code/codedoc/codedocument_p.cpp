@@ -72,6 +72,7 @@ void CodeDocumentPrivate::aboutToParse(int from, int, int added)
     const QTextBlock lastBlock = q->findBlock(from + added);
     const int last = lastBlock.isValid() ? lastBlock.blockNumber() : q->blockCount() - 1;
     const int linesNow = last - first + 1;
+    // Qt only reports characters. The number of replaced lines follows from the block counts.
     const int linesBefore = linesNow - (q->blockCount() - knownBlocks);
     knownBlocks = q->blockCount();
     unlinkDeadNodes();
@@ -157,6 +158,7 @@ CodeNode* CodeDocumentPrivate::parseLine(const QTextBlock& block, CodeBlockData*
                                          const QString& text, CodeParserSyntax* syntax)
 {
     CodeNode* previous = nodeAbove(data);
+    // Skip nodes of deleted lines that are still in the chain.
     while (previous->m_next && !previous->m_next->m_block.isValid()) {
         previous = previous->m_next;
     }
@@ -253,6 +255,7 @@ void CodeDocumentPrivate::highlightBlock(const QString& text)
     data->d->isUnreported = false;
     CodeNode* old = parseLine(block, data, text, reports ? this : nullptr);
     const int state = stateOf(data->d->node);
+    // If the state changes, Qt continues with the next line.
     setCurrentBlockState(state ? state : previousBlockState());
     storeMessages(data, hadMessages);
     if (old) {

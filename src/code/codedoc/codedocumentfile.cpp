@@ -125,6 +125,7 @@ QByteArray CodeDocument::toData() const
     QString text = this->text();
     text.replace(QLatin1Char('\n'), QLatin1String("\r\n"));
     QByteArray data = TextCodecs::stringToData(text, d->codec);
+    // A file keeps its own byte-order mark, or its absence, whatever the codec does.
     const QByteArray mark = TextCodecs::byteOrderMark(data);
     using Mark = CodeDocumentPrivate::Mark;
     if (d->byteOrderMark == Mark::Absent) {
@@ -151,6 +152,7 @@ bool CodeDocument::toFile(Archive& archive, const QString& fileName, bool asCopy
     if (!done) {
         setErrorString(reason.isEmpty() ? tr("Cannot write %1.%2").arg(fileName, QString())
                                         : reason);
+        // FileWatchObject::toFile() has already moved and paused the watch.
         renewWatch(oldName);
         return false;
     }

@@ -2,6 +2,10 @@
 
 #include "code/codedoc/ordertree_p.h"
 
+// The list is an `OrderTree` in which each node stores the size of its subtree. To find the node at
+// an index, walk down the tree and compare with these sizes. To find the index of a node, walk up
+// and add the sizes of all subtrees to the left.
+
 namespace Zorv {
 
 struct ChildTraits

@@ -88,6 +88,7 @@ void GroupCode::removeValue(unsigned index)
 
 int GroupCode::lastLine() const
 {
+    // A group ends at the next animation or group, but not at its own sub-groups.
     const CodeNode* node = this;
     while ((node = NodeChain::forward(node, CodeNode::Group | CodeNode::Animation))) {
         if (node->type() == CodeNode::Animation || isSubGroup(this) ||

@@ -2,6 +2,11 @@
 
 #include "code/codedoc/parentcode.h"
 
+// Each node of the tree stores two summaries of its subtree: a mask of the types that occur, and
+// the number of nodes of each kind. A search skips every subtree whose mask does not contain the
+// type. `before()` counts by adding up the subtrees to the left on the way to the root. Direct
+// neighbours are linked separately, so that single steps do not need the tree.
+
 namespace Zorv {
 
 using ChainTree = OrderTree<CodeNode, ChainTraits>;

@@ -41,6 +41,7 @@ ValueCode::ValueCode(CodeNode* previous, Type type, const QVariant& value)
         return;
     }
     auto* group = static_cast<GroupCode*>(head);
+    // The usual case while a file is loaded: append without counting.
     if (group->m_children.last() == previous) {
         group->insertChild(this, unsigned(-1));
     } else {

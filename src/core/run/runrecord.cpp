@@ -14,6 +14,9 @@
 
 #include <algorithm>
 
+// A record file contains a heading, the SHA-256 of the content in hex, and the content as JSON.
+// Records list files to be deleted, so a damaged one must never be used.
+
 namespace Zorv {
 
 namespace {
