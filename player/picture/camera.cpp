@@ -4,6 +4,11 @@
 
 #include <cmath>
 
+// The zoom follows the distance of the fighters, in coarse steps and within the limits of the
+// stage. It changes the size of the picture, so that pixels of the game stay whole. In x the camera
+// follows the middle between both. In y it rests while both stand on the floor, and rises with the
+// higher one.
+
 namespace Player {
 
 using Rules::State;

@@ -2,6 +2,10 @@
 
 #include <cstring>
 
+// The phases of a match: intro (until its animations end or a button is pressed), fight, round
+// over, victory pose. Then comes the next fight, or the end of the match when someone has won
+// enough rounds. A draw counts as a win for both.
+
 namespace Rules {
 
 using Family::AnimationRole;

@@ -14,6 +14,11 @@
 
 #include <algorithm>
 
+// The file is decoded and encoded again at once: if the bytes differ, it cannot be changed safely.
+// Replacements work on single lines, so line ends stay as they are. At the end the names in the new
+// text are compared with the names in the old one, where the replaced lines have the new name. If
+// anything else differs, the new name would be read as something different.
+
 namespace Operations {
 
 using Family::NameKind;

@@ -11,6 +11,12 @@
 
 #include <algorithm>
 
+// The plan is built from the uses in the index. Everything that speaks against the rename is
+// collected as a conflict, so that the user sees all problems at once: files that cannot be read or
+// written, unsaved texts, a name that is taken, a line that would not be read as meant. All uses in
+// a file become one change. A use in line 0 is a record of a sprite or sound file. A file is moved
+// after all lines that name it are changed.
+
 namespace Operations {
 
 using Family::AssetId;
