@@ -1,12 +1,12 @@
 #include "rules/bout.h"
 
 // In every tick, goOn() first advances the animation and ends actions whose time is over. After
-// that, decide() looks for a move. During a move this is a follower or a cancel after contact, or
-// in the first ticks a move with more buttons. Otherwise it is any move that fits the position. Of
-// several moves with a complete command, the one with the most motion steps wins, then the one with
-// the most buttons, then one that requires a state, then the one with the most directions. Without
-// a move, a fighter who is free on the floor reacts to the held directions: jump, run, crouch,
-// guard, walk, or stand.
+// that, decide() looks for a move. During a move this is a follower after a hit, a cancel after
+// contact (at any time if the move has no hit), or in the first ticks a move with more buttons.
+// Otherwise it is any move that fits the position. Of several moves with a complete command, the
+// one with the most motion steps wins, then the one with the most buttons, then one that requires a
+// state, then the one with the most directions. Without a move, a fighter who is free on the floor
+// reacts to the held directions: jump, run, crouch, guard, walk, or stand.
 
 namespace Rules {
 

@@ -3,8 +3,8 @@
 // Each fighter first moves by its own speed. Gravity works in the air, and friction on the floor
 // except while walking or running. Then both are kept in the stage. Overlapping push boxes are
 // separated, half each; what the end of the stage takes from one is given to the other. If both are
-// too far apart for the screen, each is pulled back by half. All values are whole numbers, so that
-// every machine computes the same.
+// too far apart for the screen, each is pulled back by half of the excess. All values are whole
+// numbers, so that every machine computes the same.
 
 namespace Rules {
 

@@ -45,7 +45,8 @@ public:
 
     QString gameFolder() const;
 
-    /// Uses an unsaved text instead of its file until the next `update()`.
+    /// From the next `update()` on, an unsaved text is used instead of its file; null for the file
+    /// itself.
     void setText(const QString& path, std::shared_ptr<const Family::SourceText> text);
 
     /// Reads changed files on all processors, with progress. False if the user cancels; the next
