@@ -175,9 +175,6 @@ void GraphicsRenderer::spriteChangedAt(unsigned int index)
     take(LayerKey, item.layer);
     item.rotation = std::isfinite(item.rotation) ? item.rotation : 0.0F;
     item.sprite = provider->at(index);
-    if (item.sprite != d->spriteItems.at(int(index)).sprite) {
-        d->clicked = {};
-    }
     // Checked again: a provider may change its list during the calls above.
     if (index < static_cast<unsigned>(d->spriteItems.size())) {
         SpriteItem& before = d->spriteItems[static_cast<int>(index)];
