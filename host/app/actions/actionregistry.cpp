@@ -13,6 +13,13 @@
 #include <QMenu>
 #include <algorithm>
 
+// An entry holds an action, its description and its gate. The gate decides whether the action is
+// enabled; the registry only changes texts, icon and shortcuts. Shortcuts come from the setting
+// "shortcut_" + name, or else from the description.
+//
+// Two shortcuts clash if one is the beginning of the other, not only if they are equal: neither
+// would work. They do not clash if their actions can never be enabled together.
+
 namespace App {
 
 namespace {

@@ -7,6 +7,11 @@
 
 #include <QPainter>
 
+// Each image has a key that never changes. Thumbnails are stored under it, so they stay valid when
+// rows are added or removed, and a late result of a worker thread is dropped if its key no longer
+// exists. `data()` requests a thumbnail the first time a view asks for it, and returns an empty one
+// until it has arrived.
+
 namespace App {
 
 using Operations::ImageNumber;

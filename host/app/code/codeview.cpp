@@ -31,6 +31,14 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+// One code workspace shows all texts. The text editors (`TextEditor`) share it: each gets every
+// text, and the last one added that wants the text is activated. This is decided when a text comes
+// to the front, and again after each change (`updateState()`), because an edit can give a text its
+// first animation.
+//
+// Cursor moves are reported at once (`followCursor`), and once more when the cursor has come to
+// rest (`followRest`).
+
 namespace App {
 
 using Family::FamilyDocument;

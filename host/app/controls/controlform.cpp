@@ -62,6 +62,8 @@ ControlForm::Row& ControlForm::rowOf(const QString& name, int* rank)
     return m_rows.back();
 }
 
+// Tools arrive in any order. Each widget stores its place in the row of the table ("rank"), and is
+// inserted after all widgets with a lower or equal rank.
 const FormRow* ControlForm::insert(const QString& name, QWidget* widget, int stretch)
 {
     int rank = 0;

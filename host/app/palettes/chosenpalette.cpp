@@ -42,6 +42,8 @@ ChosenPalette::ChosenPalette(FamilyPaletteEditor* editor)
     }
 }
 
+// A reloaded file can have a new palette at the same address, so identifier and colours are
+// compared too.
 bool ChosenPalette::isThere() const
 {
     if (!m_editor || !m_palette || !m_sprites || m_editor->sprites() != m_sprites ||

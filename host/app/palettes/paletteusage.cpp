@@ -14,6 +14,11 @@
 
 #include <algorithm>
 
+// Two caches, each empty until needed: the number of sprites per palette, which is cheap, and the
+// use of each slot, which is counted on request. Any change of the collection or its palettes
+// clears both. The line is then updated on the next turn of the event loop, because the panel may
+// still show a palette that is being replaced.
+
 namespace App {
 
 using Family::SpriteCollection;

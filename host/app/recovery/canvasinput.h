@@ -31,7 +31,7 @@ public:
     /// sprite is not in the file or the user keeps the current canvas.
     bool restore(Zorv::ProjectFile* file, const Operations::CanvasCopy& canvas, QString* error);
 
-    /// Brings the canvas to the front of what the editor shows.
+    /// The editor of the canvas.
     Zorv::SpriteEditor* editor() const { return m_editor; }
 
 signals:

@@ -152,6 +152,8 @@ void GameSession::closeProject(FamilyProject* project)
     delete project;
 }
 
+// Every project may name any file of the game. Projects in the folders around the file are tried
+// first, and the search stops at the first match.
 QString GameSession::closedProjectOf(const QString& fileName) const
 {
     if (!m_game) {

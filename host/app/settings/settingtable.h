@@ -14,7 +14,7 @@ struct SettingChoice
 };
 
 /// One setting that the user can change: a row of the table. Its default is
-/// `Family::HostInterface::defaultOption()`.
+/// `Operations::HostInterface::defaultOption()`.
 struct SettingRow
 {
     enum Kind {

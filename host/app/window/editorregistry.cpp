@@ -19,6 +19,12 @@
 #include <algorithm>
 #include <utility>
 
+// At most one editor is in front (`m_current`), and it fills the middle with one or two workspaces.
+// Activating works from both sides: an editor that is activated calls the host, which calls
+// `activate()`, and `activate()` itself activates the editor. When the current editor has nothing
+// to work on any more, the first registered one takes over; if that cannot be used either, the
+// first page of the stack is shown.
+
 namespace App {
 
 using Zorv::Editor;
