@@ -163,8 +163,8 @@ public:
                                      QAbstractItemModel* model, int row) const;
 
     /// Return false in a host that opens games, does one task and exits. Then no files or folders
-    /// are watched, because watching costs more than reading the files. Called
-    /// whenever a watch would start. True by default.
+    /// are watched, because watching costs more than reading the files. Called whenever a watch
+    /// would start. True by default.
     virtual bool watchesFiles() const;
 };
 

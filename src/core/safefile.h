@@ -27,7 +27,7 @@ class ZORV_EXPORT SafeFile : public QIODevice
 public:
     enum Option {
         NoOptions = 0,
-        KeepsExisting = 1,  ///< fail if the file exists at `commit()`
+        KeepsExisting = 1,  ///< fail if the file exists by the time of `commit()`
         IsCopy = 2,         ///< a new file need not reach the disk, because its source still
                             ///< exists. A file that replaces another always does
         OwnerOnly = 4       ///< only the owner may read it, whatever the mode of the old file

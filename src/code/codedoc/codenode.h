@@ -146,12 +146,12 @@ private:
     NodeLink m_sibling;
     NodeCounts m_counts;
     unsigned m_siblings = 1;
-    int m_endBlock = 0;  // Qt's number of the block that a node behind this one gets
+    int m_endBlock = 0;  // Qt's number of the block for a node created behind this one
     Type m_type;
     unsigned short m_chainMask = 0;
     bool m_isTracked = false;
-    unsigned char m_placedBy = Elsewhere;  // of a leaf with the parent that its head gives it:
-                                           // the type of that head, 0 without one
+    unsigned char m_placedBy = Elsewhere;  // for a leaf with the parent that its head implies:
+                                           // the type of that head, 0 if none
 };
 
 /// The head of a line, given the last node before it: the group or animation that the line belongs

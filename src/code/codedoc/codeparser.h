@@ -21,7 +21,6 @@ class RootCode;
 /// The constructor of a node decides where it belongs in the tree. A value joins the group above
 /// it, a frame the animation above it; under any other head they have no parent. An animation joins
 /// the root. A group joins nothing by itself, see `GroupCode`.
-/// see `GroupCode`.
 class ZORV_EXPORT CodeParser
 {
 public:
