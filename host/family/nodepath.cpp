@@ -14,6 +14,12 @@
 #include <QCoreApplication>
 #include <algorithm>
 
+// A path names children by name and argument; the n-th of equal children gets "#n". `nodeAt()`
+// walks down part by part. A part that is not a child can only be the last one: it names a property
+// of the node, such as "offset". `nodePath()` walks up and counts the siblings; `nodePaths()` does
+// the same for all nodes in one pass, by counting equal children per parent. Boxes precede their
+// frame in the chain and are no children, so the pass collects them until their frame appears.
+
 namespace Family {
 
 using Zorv::CodeNode;

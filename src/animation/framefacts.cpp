@@ -7,6 +7,10 @@
 #include <algorithm>
 #include <limits>
 
+// One pass over the shown frames. Ticks without attack are collected in `behind`. The next attack
+// frame turns them into `start` (if it is the first) or `pause`; what is left at the end is
+// `recovery`. The pass ends at an endless frame.
+
 namespace Zorv {
 
 namespace {

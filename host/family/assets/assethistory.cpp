@@ -2,6 +2,11 @@
 
 #include <QScopedValueRollback>
 
+// `m_steps` holds done steps before index `m_done` and undone ones from there on. A new step drops
+// the undone ones. The saved state is also just an index, `m_clean`; it becomes -1 when its step is
+// dropped, because then no undo or redo leads back to it. Steps nest by counting; only the
+// outermost end stores the step.
+
 namespace Family {
 
 namespace {

@@ -11,6 +11,13 @@
 #include <limits>
 #include <map>
 
+// Reading must survive damage. Head and number of records must be right, but each record is judged
+// by itself: by its own checksum, by its format, by the place of its samples and by their checksum.
+// `Places` keeps the parts of the file in use, ordered by offset, so an overlap shows in the two
+// neighbours. Equal places are shared samples and allowed. A broken record keeps its bytes. If
+// there is any, the parts of the file that no record uses are kept too, since its samples may be
+// there.
+
 namespace Family {
 
 using Zorv::SampleInfo;

@@ -6,6 +6,15 @@
 
 #include <algorithm>
 
+// Reading must survive damage. A record with a wrong checksum or nonsensical values keeps its bytes
+// and gets a message, but does not stop the others. If the checksum of the head is wrong, its
+// counts are tried: if they lead to valid records everywhere, they are right. A stream without a
+// valid position gets the unused bytes between its neighbours. Sizes are checked against the file
+// before memory is taken.
+//
+// Writing places the streams one after another and patches their positions into the records, broken
+// ones included; all else in a broken record stays.
+
 namespace Family {
 
 namespace {

@@ -13,6 +13,11 @@
 #include <QSet>
 #include <algorithm>
 
+// `m_written` remembers which pixels and colours each file of the folder holds. Saving in place
+// compares sprites with it and writes only those that differ, then the list, and last removes files
+// that no sprite uses any more. Before a file is overwritten or removed, its bytes move into the
+// cache, because undo may need them.
+
 namespace Family {
 
 namespace {

@@ -9,6 +9,12 @@
 
 #include <QHash>
 
+// Reads the text line by line with the same reader as the parser. The only state is the current
+// group or animation. Problems that need several lines are found with it: duplicates when the
+// second one appears, missing things when the group or animation is closed by the next head or the
+// end of the text. Names that are defined or used are only collected here. Whether they match is
+// decided per project, since the definitions can be in other files.
+
 namespace Family {
 
 namespace {

@@ -5,6 +5,12 @@
 #include "family/grammar/linescanner.h"
 #include "family/grammar/valuereader.h"
 
+// A hand-written parser for one line. A line is a head in brackets, a statement that begins with a
+// keyword, or "key = value". Each `read...()` function consumes its tokens from the scanner,
+// reports their colours and parts, and reports a problem at the first thing that does not fit.
+// After a problem the rest of the line is not reported too (`m_faulty`): it is only a consequence.
+// A comment at the end is always read.
+
 namespace Family {
 
 using Syntax = Zorv::CodeParserSyntax;

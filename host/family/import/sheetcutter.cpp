@@ -10,6 +10,11 @@
 #include <algorithm>
 #include <functional>
 
+// A grid is computed from margin, gap and either cell size or counts; without a given count, empty
+// cells at its end are dropped. Cutting by gaps projects twice: runs of non-empty rows are bands,
+// and within each band runs of non-empty columns are pictures. A picture keeps the height of its
+// band. Diagonal gaps are not found.
+
 namespace Family {
 
 namespace {

@@ -7,6 +7,10 @@
 
 #include <algorithm>
 
+// Only the text before the position decides the context; the text after it only extends the word to
+// replace. A position inside a comment has no context. In a frame line the part before the current
+// word is read by the normal line reader: the options that it reports are not offered again.
+
 namespace Family {
 
 namespace {

@@ -9,6 +9,11 @@
 #include <QDir>
 #include <QFileInfo>
 
+// Paths in a file are not trusted: a game must not read or write outside of its folder. So both the
+// game folder and the path are resolved completely, links included, before they are compared. A
+// path that does not exist yet is resolved up to its last existing folder. The number of links is
+// limited, because links can form a cycle.
+
 namespace Family {
 
 namespace {

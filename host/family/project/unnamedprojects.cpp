@@ -11,6 +11,10 @@
 #include <system_error>
 #include <vector>
 
+// Qt drops names that cannot be decoded, so the folders are listed with std::filesystem. The search
+// enters the same folders as that for projects. At the first undecodable name on a path it stops
+// and only asks whether there is a main file at or below it.
+
 namespace fs = std::filesystem;
 
 namespace Family {

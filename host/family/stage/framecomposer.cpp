@@ -12,6 +12,10 @@
 #include <array>
 #include <cmath>
 
+// Draws without GL what the stage draws with it: sprite, boxes, axis, in this order.
+// `PlacedPicture` and `boxArea()` round as the stage does, so that the results match pixel by
+// pixel.
+
 namespace Family {
 
 namespace {

@@ -4,6 +4,12 @@
 
 #include <QVector>
 
+// A picture that is not rotated is drawn by a table of source columns, computed once, and one
+// source row per line. A rotated one is drawn line by line along the spans of
+// `PlacedPicture::spanAt()`, which contain only positions inside the picture, so the inner loop
+// needs no range checks. Both loops are templates over pixel types and blending, so that blending
+// is inlined.
+
 namespace Family {
 
 namespace {

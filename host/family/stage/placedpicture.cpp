@@ -7,6 +7,14 @@
 #include <algorithm>
 #include <cmath>
 
+// Two ways lead from a stage pixel to a texel. An upright picture keeps rows and columns apart:
+// `texelUnder()` scales with integers, exactly. A rotated one is mapped back line by line: along a
+// stage line both texture coordinates u and v are linear in x, so `spanAt()` solves for the range
+// of x in which both are inside the picture. The caller then steps through it in 32.32 fixed point
+// by adding `du` and `dv`. Rounding these steps can push the ends of the range outside again, so
+// `cutSteps()` trims it once more, in integers. This guarantees that no step reads outside of the
+// picture.
+
 namespace Family {
 
 namespace {

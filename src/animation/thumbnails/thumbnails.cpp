@@ -13,6 +13,10 @@
 
 #include <algorithm>
 
+// Pictures are decoded in the main thread, because sprites belong to it. To keep the window
+// responsive, a zero timer decodes for a few milliseconds and then returns to the event loop. A new
+// page clears the queue, so that scrolling does not wait for pictures that are no longer visible.
+
 namespace Zorv {
 
 namespace {

@@ -14,6 +14,11 @@
 #include <algorithm>
 #include <limits>
 
+// Each timeout of the clock advances one tick, emits it, lets other events run, and restarts the
+// timer with the interval from `TickClock`. If a slot was slow, that interval is 0 until the lost
+// time is made up, so every tick is emitted. Processing events in between keeps the window
+// responsive even then.
+
 namespace Zorv {
 
 namespace {
