@@ -5,16 +5,17 @@ namespace Rules {
 using Family::Motion;
 using Family::MotionStep;
 
-// A motion is looked for backward from now, each step as late as it can have been: what begins
-// latest fits into the time if anything does. Nothing is looked for unless something has changed,
-// since the last step is always a change.
+// A motion is searched backward from the current tick. Each step is matched as late as possible: if
+// any match fits into the time limit, the one that starts latest does. The last step of a motion is
+// always a change, so the search only runs when the input has changed in this tick, and only for
+// motions whose last step fits the change.
 
 namespace {
 
-/// How far apart the buttons of one step may be pressed.
+/// How many ticks apart the buttons of one step may be pressed.
 constexpr int Together = 3;
 
-/// The last ticks of a fighter; age 0 is now.
+/// The inputs of a fighter in the last ticks; age 0 is now.
 class History
 {
 public:
@@ -23,7 +24,7 @@ public:
     {
     }
 
-    /// Nothing was held before the first tick.
+    /// Before the first tick, nothing was held.
     quint8 at(int age) const
     {
         if (age > m_length) {
@@ -36,7 +37,7 @@ public:
     quint8 direction(int age) const { return at(age) & MotionStep::Directions; }
     int length() const { return m_length; }
 
-    /// True if it reaches back to the first tick of all that is kept: what was before is not known.
+    /// True if the ring buffer is full, so that older inputs are unknown.
     bool isFull() const { return m_length == FighterState::HistoryTicks - 1; }
 
 private:
@@ -45,7 +46,7 @@ private:
     int m_length;
 };
 
-/// Beside a button down and up count the diagonals.
+/// With a button, the diagonals count as down and up too.
 bool holdsBeside(quint8 held, quint8 direction)
 {
     const bool isVertical = direction == MotionStep::Down || direction == MotionStep::Up;
@@ -53,7 +54,7 @@ bool holdsBeside(quint8 held, quint8 direction)
            (isVertical ? (held & direction) != 0 : (held & MotionStep::Directions) == direction);
 }
 
-/// True for no direction, and for one that differs by an eighth of a turn.
+/// True for no direction, and for one that is an eighth of a turn away.
 bool isBeside(quint8 held, quint8 direction)
 {
     return held == 0 || qPopulationCount(quint8(held ^ direction)) == 1;
@@ -94,17 +95,18 @@ bool isReleased(const History& history, const MotionStep& step, int age)
     while (held < step.held && age + 1 + held <= history.length() && isHeld(age + 1 + held)) {
         ++held;
     }
-    // What was held at the beginning of all that is known was held long enough.
+    // Inputs held at the end of the history may have been held even longer, so they count as long
+    // enough.
     return held >= step.held || (history.isFull() && age + 1 + held > history.length());
 }
 
-/// A step as it was done last.
+/// Finds the steps of a motion, from the last to the first.
 class StepSearch
 {
 public:
     StepSearch(const History& history, int time) : m_history(history), m_time(time) {}
 
-    /// The last step of a motion, which has to be done now.
+    /// Checks the last step of a motion, which must happen now.
     bool last(const MotionStep& step)
     {
         if (step.isReleased) {
@@ -123,8 +125,9 @@ public:
                m_history.direction(1) != step.direction();
     }
 
-    /// One in front of those that were found. `isRepeated` for the same direction once more: the
-    /// stick has not been elsewhere between, or the end of a longer motion would pass for it.
+    /// Finds the step before those found so far. `isRepeated` means the same direction again: then
+    /// the stick must not have been elsewhere in between. Otherwise the end of a longer motion
+    /// would match.
     bool next(const MotionStep& step, bool isRepeated)
     {
         const int from = step.isReleased ? m_release : step.buttons() ? m_button : m_direction;
@@ -160,8 +163,8 @@ private:
         }
     }
 
-    /// What was done in front of a moment. A direction may be held still when a button is pressed,
-    /// and what is let go may be let go in the moment in which another thing is done.
+    /// Restricts earlier steps to the time before a moment. A direction may still be held when a
+    /// button is pressed. A release may happen in the same tick as another step.
     void passEvent(int age, bool isRelease)
     {
         m_direction = isRelease ? age + 1 : age;
@@ -169,7 +172,7 @@ private:
         m_release = isRelease ? age + 1 : age;
     }
 
-    /// What was done before the direction of a step came.
+    /// Restricts earlier steps to the time before the direction of a step was reached.
     void passRun(int age, const MotionStep& step)
     {
         const bool isExact = step.buttons() == 0;
@@ -186,7 +189,7 @@ private:
 
     const History& m_history;
     int m_time;
-    int m_direction = 0;  // from which age on a step of each kind is looked for
+    int m_direction = 0;  // the smallest age to search for each kind of step
     int m_button = 0;
     int m_release = 0;
 };
@@ -207,7 +210,7 @@ bool isComplete(const Motion& motion, const History& history, int time)
     return true;
 }
 
-/// What is new in a tick.
+/// What has changed in a tick.
 struct Change
 {
     quint8 now;
@@ -221,7 +224,7 @@ struct Change
     {
     }
 
-    /// False for most motions, without a look at anything else.
+    /// A cheap test that rules out most motions.
     bool canEnd(const MotionStep& last) const
     {
         if (last.isReleased) {

@@ -1,5 +1,5 @@
-// A cell a tick. A move is in its start until it has attacked, which its own cells before tell: so
-// a meter that begins in the middle of a move only knows what it has seen.
+// One cell per tick. A move counts as start until it has attacked, which is known from its own
+// earlier cells. So a meter that begins in the middle of a move only knows what it has seen.
 
 #include "training/framemeter.h"
 
