@@ -16,8 +16,8 @@ class Output;
 /// Edits the document; false, with `error`, if that fails.
 using Edit = std::function<bool(Family::FamilyDocument* document, QString* error)>;
 
-/// A second file that an edit changes. It is written before the document. If the document cannot be
-/// written, it is restored.
+/// A second file that an edit changes. It is written before the document. If the document then
+/// cannot be written, the second file is restored.
 struct Companion
 {
     std::function<int()> save;  ///< returns the status

@@ -12,8 +12,7 @@ namespace Operations {
 /// A contact box and how it relates to other frames. Areas are in pixels of the game.
 struct BoxInFrame
 {
-    QRect rect;          ///< relative to the axis, normalized; the right and bottom edges are part
-                         ///< of it
+    QRect rect;          ///< relative to the axis, normalized; includes its right and bottom edges
     int line;            ///< block number
     bool stays = false;  ///< a box of the same kind and place is in the next frame
 

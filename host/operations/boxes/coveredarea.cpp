@@ -4,7 +4,7 @@
 #include <vector>
 
 // The area of a union of rectangles by sweeping a vertical line from left to right. Every rectangle
-// adds its vertical range to the line at its left side and removes it behind its right side.
+// adds its vertical range to the line at its left side and removes it after its right side.
 // Between two sides the covered length is constant, so each step adds length times distance. The
 // covered length is kept in a segment tree over all top and bottom coordinates: a node counts the
 // rectangles that cover its whole range, and its length follows from its two children. Adding or

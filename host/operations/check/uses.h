@@ -20,8 +20,7 @@ struct Removal
     Kind kind = Sprites;
     QString path;         ///< absolute path of the file
     QStringList names;    ///< "GROUP,NUMBER", or identifiers of animations
-    QStringList staying;  ///< the names of the items that stay; one with the same name replaces a
-                          ///< removed item
+    QStringList staying;  ///< items that stay; one with the same name replaces a removed one
 
     bool operator==(const Removal& other) const
     {

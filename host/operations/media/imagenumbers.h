@@ -41,8 +41,7 @@ struct ImageNumber
         Moved,     ///< the number in its name is taken: gets the next free one
         Replaces,  ///< replaces a sprite
         Twin,      ///< the same image as `other`: both become one sprite
-        NoNumber,  ///< no group in its name and none given; this and all following states are
-                   ///< errors
+        NoNumber,  ///< no group in its name and none given; from here on, states are errors
         Taken,     ///< a sprite has the number
         Twice,     ///< the image `other` has the number
         NoRoom     ///< the group is full
