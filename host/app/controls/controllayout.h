@@ -17,7 +17,7 @@ struct BarRow
     Kind kind;
     int area;           ///< Qt::ToolBarArea or Qt::DockWidgetArea; 0 for a page
     const char* menu;   ///< shown and hidden with this menu and
-    const char* group;  ///< group in `setMenuEnabled()`; null: always shown
+    const char* group;  ///< group in `setMenuEnabled()`; null: independent of it
     ActionText title;
     const char* setting = nullptr;  ///< setting that shows it, if editors read that too
     int fewest = 1;                 ///< fewest tools to show it: one selector offers no choice

@@ -170,6 +170,9 @@ bool GameOpener::openFolder(const QString& folder)
     return true;
 }
 
+// From cheap to expensive: an open document, a main file, a file that an open project names but has
+// not loaded, a file of a closed project, which means reading the files of all projects. Sprites
+// have no document and come last.
 bool GameOpener::openFile(const QString& fileName)
 {
     FamilyDocument* document = m_services.session->document(fileName, m_services.parts->project());

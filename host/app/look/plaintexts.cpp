@@ -28,6 +28,7 @@ bool showPlain(QWidget* widget, const QHelpEvent* help)
     const QString tip = tipAt(widget, help->pos());
     const bool looksRich = Qt::mightBeRichText(tip);
     if (looksRich) {
+        // QToolTip detects rich text by itself. Escaping is the only way to show markup literally.
         QToolTip::showText(help->globalPos(),
                            QLatin1String("<qt>") + tip.toHtmlEscaped() + QLatin1String("</qt>"),
                            widget);

@@ -79,6 +79,14 @@
 #include <QTimer>
 #include <QToolBar>
 
+// The window is created in two stages, because the parts that publish tools need a host that
+// already knows the window. The constructor creates the services and all other parts.
+// `publishTools()` creates the rest, registers all parts, and connects those that do not know each
+// other. The last step restores the saved geometry, when all panels exist.
+//
+// The destructor first clears all parts, then destroys the editors in reverse order, and the
+// session last: everything else points into it.
+
 namespace App {
 
 using Family::FamilyDocument;

@@ -93,8 +93,7 @@ void Costumes::update()
     m_panel->setCurrentIndex(m_palettes.indexOf(m_editor->paletteEditor()->currentPalette()));
 }
 
-/// Shows the canvas in a palette. Only if the file still has the palette of that row, and the
-/// palette panel has not moved to another file.
+/// Makes a palette current, if the file still has it and the palette panel still shows this file.
 void Costumes::choose(int index)
 {
     Zorv::PaletteEditor* panel = m_editor->paletteEditor();

@@ -79,8 +79,8 @@ protected:
     Zorv::AssetResult importAssets(const Zorv::AssetRequest& request) override;
     bool mayDeleteAnimation() override;
 
-    /// Follows the rules of the engine: an animation that a move shows ends with a frame that
-    /// stays.
+    /// Uses the rules of the engine if a move shows the animation: such an animation ends with a
+    /// frame that stays.
     Zorv::FrameFacts frameFacts(const Zorv::AnimationCode* animation) const override;
     bool newAnimationData(QString& identifier, QString& text, int& position) override;
 

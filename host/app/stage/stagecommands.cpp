@@ -36,6 +36,14 @@
 #include <QToolButton>
 #include <QWidgetAction>
 
+// The stage has three exclusive modes: positioning, drawing boxes and picking a colour. The drawing
+// actions belong to the library, picking to this class, so each switches the other off. Escape
+// leaves a mode, and in positioning mode the stage.
+//
+// Texts with animations open with the stage or without it; the user's last choice of either editor,
+// or of the action "view_stage", decides (`choose()`). The stage keeps its height while an
+// animation is empty, unless no animation of the text has frames.
+
 namespace App {
 
 using Family::FamilyDocument;

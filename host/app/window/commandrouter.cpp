@@ -10,6 +10,11 @@
 
 #include <algorithm>
 
+// The actions are always the same; what they do depends on the focus. `rowOf()` asks three sources
+// in turn: the focused input field, the panel around the focus, the editor in front. A selection
+// command stops at the first field or panel, even if that cannot run it. The last focused widget of
+// the window counts, so that opening a menu does not change the target.
+
 namespace App {
 
 namespace {
