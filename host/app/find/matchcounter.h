@@ -39,7 +39,7 @@ public:
     bool isCapped() const { return m_places.size() >= MaxCount; }
     int count() const { return m_places.size(); }
 
-    /// The index of the match at a place; -1 if there is none or it is not counted yet.
+    /// The index of the match at a place, from 0; -1 if there is none or it is not counted yet.
     int indexOf(const Place& place) const;
 
     /// True for the last counted match, if there may be more.
