@@ -22,6 +22,10 @@
 #include <memory>
 #include <vector>
 
+// A restore first compares the backup with the disk. It then watches every file concerned, and
+// makes the safety backup. Only after that it copies. A file that another program changes in
+// between is not overwritten, because its new content would be in no backup.
+
 namespace Operations {
 
 using Family::FamilyDocument;

@@ -26,7 +26,9 @@ Box boxOf(const QRect& rect)
             qMax(rect.left(), rect.right()), qMax(rect.top(), rect.bottom())};
 }
 
-/// Computes the frame order, once all frames are known.
+/// Computes the frame order, once all frames are known. A frame with delay 0 is never shown, and
+/// one with a negative delay stays forever. After the last shown frame, the animation continues
+/// with the first shown frame at or after the last `loop`.
 void finish(Animation* animation)
 {
     QVector<Frame>& frames = animation->frames;

@@ -7,6 +7,10 @@
 
 #include <cstdio>
 
+// The hidden folder contains a lock file and a folder with the content. Only the content is renamed
+// to the final place, which is atomic. A hidden folder whose lock can be taken belongs to a dead
+// process and is removed by the next program that creates something there.
+
 namespace Operations {
 
 namespace {

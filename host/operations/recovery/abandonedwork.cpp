@@ -22,6 +22,11 @@
 #include <algorithm>
 #include <limits>
 
+// Claiming the folders of dead processes locks them, so two programs never offer the same copy.
+// Each copy is read whole to verify it, but its assets are dropped again and only read when they
+// are needed. A copy applies if the file still has the hash that was recorded when the work began.
+// A copy that is equal to its file is useless and is deleted.
+
 namespace Operations {
 
 namespace {
