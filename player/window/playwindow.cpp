@@ -16,7 +16,7 @@
 // The clock ticks 60 times a second. Each tick advances the session, plays its sounds and paints at
 // once. When files change, the whole match is loaded again and everything that refers to the old
 // game is replaced. The new session takes over places, life and power, so that an author sees a
-// change without starting anew.
+// change at once.
 
 namespace Player {
 
