@@ -116,7 +116,7 @@ bool writeName(const Target& target, const QString& text, QString* error)
     return true;
 }
 
-/// The target of a path that has a value.
+/// The target of a path; fails if it has no value.
 bool findTarget(const FamilyDocument* document, const QString& path, Target* target, QString* error)
 {
     target->node = nodeAt(document, path, &target->part, error);

@@ -80,7 +80,8 @@ std::optional<QString> askIdentifier(const QPointer<Animations>& list, const QSt
     }
 }
 
-/// The code of an animation with a new identifier, or with the old one if it is empty.
+/// The code of an animation with a new identifier, or with the old one if `identifier` is empty.
+/// Empty if `codeFor()` cannot make it.
 QString copyOf(const Animations* list, unsigned index, const QString& identifier)
 {
     return identifier.isEmpty() ? list->ownLines(index).selectedText().replace(

@@ -18,7 +18,7 @@ enum class Form : unsigned char {
     MoveName,       ///< the name of a [move]
     Choice,         ///< one word of a list
     Date,           ///< 2024-05-31
-    Count,          ///< not below 0
+    Count,          ///< at least 0
     Percent,        ///< 80%
     Colour,         ///< 0xff8040
     Colours,

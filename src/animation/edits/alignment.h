@@ -22,7 +22,7 @@ struct Alignment
         OffsetBoxes = 1,        ///< both corners += (x, y)
         ResizeTopLeft = 2,      ///< the top left corner -= (x, y)
         ResizeBottomRight = 3,  ///< the bottom right corner += (x, y)
-        ScaleBoxes = 4  ///< to x and y percent, counted from the axis; divisions drop the fraction
+        ScaleBoxes = 4          ///< to x and y percent, relative to the axis; divisions truncate
     };
     static constexpr int ModeCount = 5;
 

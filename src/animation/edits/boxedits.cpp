@@ -32,7 +32,7 @@ QVector<int> indexesOf(const QVector<BoxPlace>& boxes, ContactBoxCode::BoxType t
     return validPlaces(result, count);
 }
 
-/// Calls `edit(FollowedBoxes, indexes)` for each kind of box of a frame.
+/// Calls `edit(FollowedBoxes, indexes)` for each box type of a frame.
 template <class Edit>
 EditCount editBoxes(Animations* animations, const FramePlace& place, const QString& title,
                     const QVector<BoxPlace>& boxes, const Edit& edit)

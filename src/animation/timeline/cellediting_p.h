@@ -57,7 +57,7 @@ public:
     /// @}
 
     /// @name The actions of the strip
-    /// Call after the rows, the language or the state have changed, respectively.
+    /// Call them after a change of rows, language and state, respectively.
     /// @{
     void offerActions();
     void nameActions();

@@ -13,13 +13,13 @@ namespace Zorv {
 /// motion a tick takes several periods.
 struct TickClock
 {
-    static constexpr qint64 Period = 16'666'667;  ///< nanoseconds a tick
+    static constexpr qint64 Period = 16'666'667;  ///< nanoseconds per tick
     static constexpr qint64 Millisecond = 1'000'000;
 
-    /// Milliseconds to the first tick.
+    /// Milliseconds until the first tick.
     int firstInterval() const { return 16 * slowness; }
 
-    /// Takes the nanoseconds since the last tick, and gives the milliseconds to the next.
+    /// Takes the nanoseconds since the last tick, returns the milliseconds until the next.
     int step(qint64 elapsed)
     {
         const qint64 period = Period * slowness;
@@ -28,7 +28,7 @@ struct TickClock
         return int(std::max<qint64>((error + period) / Millisecond, 0));
     }
 
-    int slowness = 1;  ///< the periods that a tick takes
+    int slowness = 1;  ///< periods per tick
     qint64 error = 0;  ///< nanoseconds by which the ticks are ahead
     float currentFPS = 60.0F / float(slowness);
     unsigned int frameCount = 0;  ///< ticks since the rate was measured
