@@ -148,6 +148,9 @@ bool EngineRun::copyProjects()
                                         "Check it in Tools / Options."));
     }
     FileInput::takeOf(m_tree->model);
+    if (!m_tree) {
+        return false;  // closed behind a message about a canvas that could not be saved
+    }
     m_copies.push_back(std::make_unique<TemporaryCopies>(m_folder));
     m_tree->runnable = false;
     for (int i = 0; i < marks.size() && m_tree; ++i) {
@@ -198,8 +201,8 @@ bool EngineRun::writeCopy(Project* project, const QString& folder, const QString
     bool isNamed = false;
     const LazySync lazy(LazySync::Temporary);
     if (mainName.isEmpty()) {
-        isNamed = project->file(FileID::MainCode)
-                      ->toFile(*FileSystemArchive::instance(), folder + name, true);
+        ProjectFile* const main = project->file(FileID::MainCode);
+        isNamed = main && main->toFile(*FileSystemArchive::instance(), folder + name, true);
     } else {
         project->saveAll(folder, true, nullptr);
         isNamed =
