@@ -14,7 +14,7 @@ namespace Operations {
 
 namespace {
 
-/// Searching a single file takes less time than handing it to a thread.
+/// The size of a job: searching a single file takes less time than handing it to a thread.
 constexpr int FilesAtOnce = 100;
 
 QVector<FileHits> searchPart(const QStringList& paths, const QString& text, int options)

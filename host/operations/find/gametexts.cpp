@@ -36,7 +36,7 @@ constexpr int MostAtOnce = 64;
 struct GameTexts::Round
 {
     std::vector<GameText> due;
-    std::vector<GameFinding> findings;  // same indexes, also for the next two
+    std::vector<GameFinding> findings;  // same indexes as `due`, also the next two
     std::vector<DiskState> states;
     std::vector<char> isReady;
     std::atomic_int next{0};

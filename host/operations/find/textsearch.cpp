@@ -22,7 +22,7 @@ namespace {
 constexpr int MostShown = 300;  // characters of a line
 constexpr int ShownBefore = 60;
 
-// Limit for files that are filtered before they are decoded.
+// Larger files are not filtered as bytes before they are decoded.
 constexpr int MostBytes = 16 * 1024 * 1024;
 constexpr int Block = 65536;
 
@@ -79,7 +79,7 @@ private:
 /// The content of a file, in a buffer that each thread reuses.
 struct FileBytes
 {
-    /// Rejects pipes, which would block, and files too large for memory.
+    /// Rejects pipes, which would block, and files of `MostBytes` or more.
     bool read(const QString& path);
 
     QByteArray buffer;

@@ -89,7 +89,7 @@ MediaResult Import::run(QVector<ImportedId>* ids)
     if (!numberAll(&result)) {
         return result;
     }
-    // A step without changes must not be recorded: undoing it would undo the step before instead.
+    // A step without changes is not recorded, so undo() would take back the step before instead.
     bool hasChanged = false;
     const auto watch = QObject::connect(m_sprites, &SpriteCollection::modified,
                                         [&hasChanged] { hasChanged = true; });

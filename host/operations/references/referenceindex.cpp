@@ -134,8 +134,7 @@ struct ReferenceIndex::Private
     QString game;
     QHash<QString, Entry> entries;
     QVector<IndexedProject> projects;
-    QHash<QString, QPair<NamesPtr, IndexedProject>> found;  // for main files that were already
-                                                            // evaluated
+    QHash<QString, QPair<NamesPtr, IndexedProject>> found;  // for main files already evaluated
     QHash<QString, QVector<int>> users;                     // the projects that use a path
     int readCount = 0;
 };
