@@ -319,11 +319,12 @@ void FindInFiles::changeEvent(QEvent* event)
 /// Return searches at once and moves the focus to the results.
 bool FindInFiles::eventFilter(QObject* watched, QEvent* event)
 {
+    if (event->type() != QEvent::KeyPress) {
+        return QWidget::eventFilter(watched, event);
+    }
     const auto* press = static_cast<QKeyEvent*>(event);
-    const bool isReturn = event->type() == QEvent::KeyPress &&
-                          (press->key() == Qt::Key_Return || press->key() == Qt::Key_Enter);
-    const bool isDown = event->type() == QEvent::KeyPress && press->key() == Qt::Key_Down &&
-                        press->modifiers() == Qt::NoModifier;
+    const bool isReturn = press->key() == Qt::Key_Return || press->key() == Qt::Key_Enter;
+    const bool isDown = press->key() == Qt::Key_Down && press->modifiers() == Qt::NoModifier;
     if (!isReturn && !(isDown && m_model->hitCount() > 0)) {
         return QWidget::eventFilter(watched, event);
     }
