@@ -25,6 +25,7 @@ private slots:
     void opensImagesAsSprites();
     void savesAndReadsTheSame();
     void undoesAcrossSaving();
+    void savingElsewhereForgetsTheOldFolder();
     void leavesAloneWhatItCannotRead();
     void writesAsPngWhatAFormatWouldLose();
     void writesThroughNoLink();
@@ -115,6 +116,21 @@ void TestSpriteFolder::undoesAcrossSaving()
     SpriteFolder again;
     QVERIFY(again.fromFile(disk(), m_folder->path(), false));
     QCOMPARE(PlainSprites::linesOf(again), before);
+}
+
+/// A file that only the old folder had is somebody else's in the new one.
+void TestSpriteFolder::savingElsewhereForgetsTheOldFolder()
+{
+    const QTemporaryDir other;
+    const QString stranger = other.filePath("b.png");
+    SpriteFolder sprites;
+    QVERIFY(sprites.fromFile(disk(), m_folder->path(), false));
+    sprites.removeSprite(0);
+    QVERIFY2(sprites.toFile(disk(), other.path(), false), qPrintable(sprites.errorString()));
+    QVERIFY(writeFile(stranger, "not ours"));
+    QVERIFY2(sprites.toFile(disk(), other.path(), false), qPrintable(sprites.errorString()));
+    QCOMPARE(readFile(stranger), QByteArray("not ours"));
+    QCOMPARE(bytes("b.png").isEmpty(), false);
 }
 
 void TestSpriteFolder::leavesAloneWhatItCannotRead()

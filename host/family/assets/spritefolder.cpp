@@ -265,7 +265,7 @@ bool SpriteFolder::toFile(Zorv::Archive& archive, const QString& folder, bool as
         if (!writeImage(archive, folder, sprite.get())) {
             return false;
         }
-        if (isOwn || !asCopy) {
+        if (isOwn) {
             noteWritten(sprite.get());
         }
     }
@@ -276,6 +276,14 @@ bool SpriteFolder::toFile(Zorv::Archive& archive, const QString& folder, bool as
         removeOld(folder);
     }
     if (!asCopy) {
+        if (!isOwn) {
+            // Only now, and without the names of the old folder: a later save skips files that are
+            // in here, and deletes those that no sprite uses.
+            m_written.clear();
+            for (const auto& sprite : items()) {
+                noteWritten(sprite.get());
+            }
+        }
         setFileName(folder);
         setArchive(&archive);
         setClean();
